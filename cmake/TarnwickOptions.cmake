@@ -1,0 +1,62 @@
+# Compiler settings shared by every target.
+#
+# The render has to give the same bytes on every machine and from every
+# compiler, so the floating-point model is pinned here and nowhere else.
+
+option(TARNWICK_TESTS "Build the tests" ON)
+option(TARNWICK_BENCH "Build the benchmarks" OFF)
+option(TARNWICK_FUZZ "Build the fuzzers (clang only)" OFF)
+set(TARNWICK_SANITIZE "" CACHE STRING "Sanitizers, as for -fsanitize=")
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+if(NOT CMAKE_BUILD_TYPE)
+  set(CMAKE_BUILD_TYPE RelWithDebInfo)
+endif()
+# Assertions stay on in every build but the released one.
+string(REPLACE "-DNDEBUG" "" CMAKE_CXX_FLAGS_RELWITHDEBINFO "${CMAKE_CXX_FLAGS_RELWITHDEBINFO}")
+
+add_library(tarnwick_options INTERFACE)
+target_compile_options(tarnwick_options INTERFACE
+  -Wall -Wextra -Wconversion -Wshadow -Wnon-virtual-dtor -Wold-style-cast -Werror
+  -ffp-contract=off -fno-math-errno)
+target_include_directories(tarnwick_options INTERFACE "${CMAKE_SOURCE_DIR}/src")
+
+if(CMAKE_SIZEOF_VOID_P EQUAL 4)
+  # SSE arithmetic instead of the x87 stack, whose extra bits would show in the
+  # picture. 32-bit Windows aligns the stack to 4 bytes only.
+  target_compile_options(tarnwick_options INTERFACE -msse2 -mfpmath=sse -mstackrealign)
+endif()
+
+if(TARNWICK_SANITIZE)
+  # Everything is built with them, GoogleTest too.
+  add_compile_options(-fsanitize=${TARNWICK_SANITIZE} -fno-omit-frame-pointer
+                      -fno-sanitize-recover=all)
+  add_link_options(-fsanitize=${TARNWICK_SANITIZE})
+endif()
+
+find_package(Threads REQUIRED)
+
+# The sources of one folder: platform halves end in _win.cpp and _posix.cpp.
+function(tarnwick_sources out)
+  set(found)
+  foreach(folder ${ARGN})
+    file(GLOB files CONFIGURE_DEPENDS "${folder}/*.cpp" "${folder}/*.h")
+    list(APPEND found ${files})
+  endforeach()
+  if(WIN32)
+    list(FILTER found EXCLUDE REGEX "_posix\\.cpp$")
+  else()
+    list(FILTER found EXCLUDE REGEX "_win\\.cpp$")
+  endif()
+  # Intrinsics live only in files named for their instruction set.
+  foreach(file ${found})
+    if(file MATCHES "_avx2\\.cpp$")
+      set_source_files_properties("${file}" PROPERTIES COMPILE_OPTIONS "-mavx2")
+    endif()
+  endforeach()
+  set(${out} ${found} PARENT_SCOPE)
+endfunction()
