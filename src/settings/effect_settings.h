@@ -15,8 +15,9 @@ inline constexpr char kNoTextureName[] = "No_Texture.twk";
 // A flat surface: colour and light without relief.
 inline constexpr char kSolidTextureName[] = "Solid.twk";
 
-// What an unset colour category is called.
+// What an unset colour category is called, and the longest one, in bytes.
 inline constexpr char kCustomCategory[] = "Custom";
+inline constexpr std::size_t kMaxCategoryName = 63;
 
 // All that says what the filter is to do.
 //
@@ -172,7 +173,7 @@ struct EffectSettings {
 };
 
 // What belongs to the settings but lives as long as the module: link buttons
-// and the names of the colour presets in use (at most 63 bytes).
+// and the names of the colour presets in use (at most kMaxCategoryName bytes).
 struct SettingsSession {
   // The settings of effects with the same texture move together; and a linked
   // second wash or surface takes the first one's texture name whenever it is

@@ -6,8 +6,6 @@
 namespace tarnwick {
 namespace {
 
-constexpr std::size_t kMaxCategoryText = 63;
-
 const unsigned char* Address(const SettingField& field, const EffectSettings& settings,
                              const SettingsSession& session) {
   const void* home = field.inSession ? static_cast<const void*>(&session) : &settings;
@@ -123,13 +121,13 @@ void StoreSettingText(const SettingField& field, std::string_view text, EffectSe
   if (field.type == SettingType::kText) {
     StoreTextureName(*reinterpret_cast<char(*)[kTextureNameSize]>(at), text);
   } else if (field.type == SettingType::kCategory) {
-    *reinterpret_cast<std::string*>(at) = text.substr(0, kMaxCategoryText);
+    *reinterpret_cast<std::string*>(at) = text.substr(0, kMaxCategoryName);
   }
 }
 
 std::size_t MaxSettingText(const SettingField& field) {
   if (field.type == SettingType::kText) return kTextureNameSize - 1;
-  return field.type == SettingType::kCategory ? kMaxCategoryText : 0;
+  return field.type == SettingType::kCategory ? kMaxCategoryName : 0;
 }
 
 void StoreTextureName(char (&name)[kTextureNameSize], std::string_view text) {
