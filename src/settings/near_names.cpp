@@ -11,6 +11,9 @@ namespace {
 // A shorter part of a name would be found in too many of them.
 constexpr std::size_t kShortestPart = 3;
 
+// From this length on a third slip is forgiven.
+constexpr std::size_t kLongName = 10;
+
 struct Candidate {
   std::size_t slips;
   const std::string* name;
@@ -37,7 +40,7 @@ std::size_t EditDistance(std::string_view a, std::string_view b) {
 
 std::vector<std::string> NearNames(std::string_view name, std::span<const std::string> candidates,
                                    std::size_t limit) {
-  const std::size_t mostSlips = std::max<std::size_t>(2, name.size() / 3);
+  const std::size_t mostSlips = name.size() < kLongName ? 2 : 3;
   const std::string part = AsciiLowered(name);
   std::vector<Candidate> near;
   for (const std::string& candidate : candidates) {
