@@ -1,0 +1,87 @@
+#include "picture_save.h"
+
+#include <new>
+#include <string_view>
+
+#include "cli_error.h"
+#include "picture_color.h"
+#include "vips_library.h"
+
+namespace tarnwick {
+namespace {
+
+using vips::VImage;
+
+constexpr int kFullColorQuality = 90;
+
+vips::VOption* WritingOptions(const PictureFormat& format, const VImage& image, int quality) {
+  vips::VOption* options = VImage::option();
+  if (format.lossy) options->set("Q", quality);
+  const std::string_view name = format.extension;
+  if (name.starts_with("jp") && name != "jp2") {
+    options->set("optimize_coding", true)
+        ->set("subsample_mode", quality >= kFullColorQuality ? VIPS_FOREIGN_SUBSAMPLE_OFF
+                                                             : VIPS_FOREIGN_SUBSAMPLE_ON);
+  } else if (name == "webp") {
+    options->set("smart_subsample", quality >= kFullColorQuality);
+  } else if (name.starts_with("tif")) {
+    constexpr double kClassicLimit = 3.9e9;
+    const double bytes = 1.0 * image.width() * image.height() * image.bands();
+    options->set("compression", VIPS_FOREIGN_TIFF_COMPRESSION_LZW)
+        ->set("predictor", VIPS_FOREIGN_TIFF_PREDICTOR_HORIZONTAL)
+        ->set("bigtiff", bytes > kClassicLimit);
+  }
+  return options;
+}
+
+VImage Planes(const VImage& image, int count) {
+  return image.extract_band(0, VImage::option()->set("n", count));
+}
+
+// Drops what the format has no place for.
+VImage Adapt(const VImage& picture, const PictureFormat& format, PictureNotes& notes) {
+  constexpr int kAlphaPlane = 3;
+  VImage image = picture;
+  if (image.bands() > kAlphaPlane + 1 && !format.manyPlanes) {
+    notes.push_back("planes beyond alpha are left out, as " + std::string(format.extension) +
+                    " has no place for them");
+    image = Planes(image, kAlphaPlane + 1);
+  }
+  if (image.bands() == kAlphaPlane + 1 && !format.alpha) {
+    if (image.extract_band(kAlphaPlane).min() < 255) {
+      notes.push_back("transparent parts are put on white, as " + std::string(format.extension) +
+                      " has no transparency");
+      image = image.flatten(VImage::option()->set("background", std::vector<double>{255.0}));
+    } else {
+      image = Planes(image, kAlphaPlane);
+    }
+  }
+  return image;
+}
+
+}  // namespace
+
+void SaveImage(const VImage& image, const std::string& path, const std::string& shown,
+               const PictureFormat& format, int quality) {
+  try {
+    image.write_to_file(path.c_str(), WritingOptions(format, image, quality));
+  } catch (const vips::VError&) {
+    const std::string fault = VipsFault("unknown fault");
+    if (fault.find("out of memory") != std::string::npos) throw std::bad_alloc();
+    FailInput(shown, "cannot be written: " + fault, "check disk space and format");
+  }
+}
+
+void SavePicture(const Picture& picture, const std::string& path, const std::string& shown,
+                 const PictureFormat& format, int quality, PictureNotes& notes) {
+  VImage image;
+  try {
+    image = Adapt(picture.image, format, notes);
+    if (picture.fromCmyk && format.cmyk) image = BackToCmyk(image, picture.cmykProfile);
+  } catch (const vips::VError&) {
+    FailInput(shown, "colours cannot be converted: " + VipsFault("unknown fault"));
+  }
+  SaveImage(image, path, shown, format, quality);
+}
+
+}  // namespace tarnwick
