@@ -1,26 +1,31 @@
-// Battleship: the side of a grey ship. Overlapping steel plates, rows of
-// rivets, dents from fenders and buoys, many coats of thick paint with runs and
-// chips, rust that weeps from under rivets and seams.
+// Battleship: the side of a grey ship. Steel plates that lap over each other,
+// rivets along the laps, welds where repairs butted plates together, and coat
+// upon coat of paint: it blisters, breaks off in steps, runs, and is gouged by
+// fenders; bare places are rough with rust.
 //
-// What makes it read as that: rivets along every seam, plates that meet off
-// line like bricks of unequal length, paint too thick to be flat, and a few
-// wide dents that break the order.
+// What makes it read as that: rivets along every lap, plates unequal and off
+// line, paint so thick that a chip has terraces like a map, and gouges and
+// blisters that take no notice of the order.
 //
-// Dark is proud here and light is deep: the standard light of a surface comes
-// from below left for light-is-high maps, and rivets should stand out under it.
+// Dark is proud here and light is deep. The light of a fresh surface comes from
+// below for a map whose heights are light, and people take light to come from
+// above: drawn this way, a rivet stands out instead of looking pressed in.
 #include "builder/texture_recipe.h"
 #include "toolbox/cells.h"
 #include "toolbox/filters.h"
 #include "toolbox/hash.h"
 #include "toolbox/maths.h"
 #include "toolbox/noise.h"
+#include "toolbox/scratches.h"
+#include "toolbox/strokes.h"
 #include "toolbox/tone.h"
 
 namespace tarnwick::content {
 namespace {
 
-constexpr float kStrake = 430.0F;  // height of a row of plates, pixels
-constexpr float kPlate = 980.0F;   // mean length of a plate
+constexpr float kStrake = 452.0F;  // height of a row of plates, pixels
+constexpr float kPlate = 1020.0F;  // mean length of a plate
+constexpr float kPitch = 67.0F, kInset = 33.0F, kRivet = 14.0F;
 
 struct PlateSpot {
   std::uint32_t plate;  // which
@@ -29,84 +34,152 @@ struct PlateSpot {
 };
 
 PlateSpot PlateAt(float x, float y, std::uint32_t seed) {
-  y += 150.0F;
+  // Shell plating is fair, not straight.
+  y += 190.0F + 3.0F * LineNoise(x / 240.0F, seed + 2);
   const int row = FloorInt(y / kStrake);
   const auto end = [&](int i) {
-    return (static_cast<float>(i) + 0.5F * Unit(HashAt(i, row, seed)) +
+    return (static_cast<float>(i) + 0.55F * Unit(HashAt(i, row, seed)) +
             0.37F * static_cast<float>(row & 3)) *
            kPlate;
   };
-  int i = FloorInt(x / kPlate) - 2;
+  int i = FloorInt(x / kPlate) - 3;
   while (x >= end(i + 1)) ++i;
   const float v = y - static_cast<float>(row) * kStrake;
   return {HashAt(i, row, seed + 1), x - end(i), v, end(i + 1) - x, kStrake - v};
 }
 
-// A row of rivets `inset` pixels from an edge, `pitch` apart: distance from the
-// nearest one's middle. `side` numbers the row for the place of each.
-float RivetDistance(float along, float across, float inset, float pitch, std::uint32_t side) {
-  const float n = along / pitch;
+struct RivetSpot {
+  float distance;  // pixels from the nearest rivet's middle
+  float age;       // 0..1, one for each rivet
+};
+
+// Laps are riveted twice, above and below the edge of the upper plate.
+RivetSpot RivetAt(const PlateSpot& p) {
+  RivetSpot nearest{1e9F, 0.0F};
+  const float n = p.u / kPitch;
   const int i = FloorInt(n);
-  const float jitter = 3.0F;
-  const float cx =
-      (static_cast<float>(i) + 0.5F) * pitch + jitter * (Unit(HashAt(i, 1, side)) - 0.5F);
-  const float cy = inset + jitter * (Unit(HashAt(i, 2, side)) - 0.5F);
-  return Length(along - cx, across - cy);
+  for (int row = 0; row < 2; ++row) {
+    const std::uint32_t h = HashAt(i, row, p.plate);
+    const float across = row == 0 ? p.v : p.toFoot;
+    const float cx = (static_cast<float>(i) + 0.5F) * kPitch + 4.0F * (Unit(h) - 0.5F);
+    const float cy = kInset + 4.0F * (Unit(Hash(h)) - 0.5F);
+    if (cx < 40.0F || p.u + p.toEnd - cx < 40.0F) continue;
+    const float d = Length(p.u - cx, across - cy);
+    if (d < nearest.distance) nearest = {d, Unit(Hash(h + 5))};
+  }
+  return nearest;
 }
 
-constexpr float kPitch = 58.0F, kInset = 27.0F, kRivet = 12.0F;
-
-float NearestRivet(const PlateSpot& p) {
-  float d = RivetDistance(p.u, p.v, kInset, kPitch, p.plate);
-  d = Min(d, RivetDistance(p.u, p.toFoot, kInset, kPitch, p.plate + 1));
-  d = Min(d, RivetDistance(p.v, p.u, kInset, kPitch, p.plate + 2));
-  return Min(d, RivetDistance(p.v, p.toEnd, kInset, kPitch, p.plate + 3));
+// The weld between two plates' ends: a bead of overlapping crescents.
+float Weld(const PlateSpot& p, std::uint32_t seed) {
+  const float aside = p.u < p.toEnd ? p.u : -p.toEnd;
+  const float wander = 3.0F * LineNoise(p.v / 40.0F, seed) + 1.5F * LineNoise(p.v / 9.0F, seed + 1);
+  const float t = (aside + wander) / 11.0F;
+  if (Abs(t) >= 1.0F) return 0.0F;
+  const float ripple = Fraction((p.v + 5.0F * t * t) / 8.0F);
+  return Sqrt(1.0F - t * t) * (0.75F + 0.25F * ripple);
 }
 
 Field Paint(const Sheet& sheet) {
   const std::uint32_t seed = sheet.seed;
-  const Fbm coat{46.0F, 4, 0.5F, seed + 10};
-  const Fbm orangePeel{7.0F, 2, 0.5F, seed + 11};
-  const Fbm grit{2.6F, 2, 0.6F, seed + 12};
+  const Fbm lumps{30.0F, 3, 0.5F, seed + 10};
+  const Fbm peel{8.0F, 3, 0.55F, seed + 11};
+  const Fbm crust{11.0F, 4, 0.7F, seed + 12};
   const Fbm buckle{330.0F, 3, 0.45F, seed + 13};
-  const Spots dents{300.0F, 0.45F, 30.0F, 140.0F, seed + 20};
-  const Warp pushed{26.0F, {120.0F, 3, 0.5F, seed + 21}};
-  const Fbm wear{150.0F, 5, 0.6F, seed + 30};
-  const Warp torn{6.0F, {15.0F, 3, 0.6F, seed + 31}};
-  const Spots chips{64.0F, 0.35F, 2.0F, 17.0F, seed + 32};
+  const Spots dents{420.0F, 0.5F, 40.0F, 190.0F, seed + 20};
+  const Warp pushed{40.0F, {150.0F, 3, 0.5F, seed + 21}};
+  const Fbm wear{260.0F, 6, 0.58F, seed + 30};
+  const Warp torn{9.0F, {22.0F, 4, 0.6F, seed + 31}};
+  const Spots chips{70.0F, 0.5F, 2.0F, 22.0F, seed + 32};
+  const Spots blisters{26.0F, 0.55F, 2.0F, 10.0F, seed + 33};
 
-  // Where the paint is gone: in spots, at rivets and along seams.
-  const Field chip = Painted(sheet, [&](Spot p) {
-    const PlateSpot at = PlateAt(p.fx, p.fy, seed);
-    const float seam = Min(Min(at.u, at.toEnd), Min(at.v, at.toFoot));
-    const float rivet = NearestRivet(at);
-    const float weak = 0.35F * Exp(-seam / 9.0F) + 0.28F * SmoothRamp(20.0F, 11.0F, rivet);
-    const float worn = SoftThreshold(wear(torn(p)) + weak, 0.62F, 0.05F);
-    const float spot = SoftThreshold(chips(torn(p)).depth, 0.2F, 0.12F);
-    return Max(worn, spot * SoftThreshold(wear(p), 0.05F, 0.3F));
+  StrokeSet gouges;
+  AddScuffs(gouges, sheet,
+            {.count = 26,
+             .minLength = 120.0F,
+             .maxLength = 700.0F,
+             .heading = 0.05F,
+             .spread = 0.25F,
+             .stray = 0.12F,
+             .slender = 0.2F,
+             .minLines = 3,
+             .maxLines = 14,
+             .minRadius = 0.7F,
+             .maxRadius = 2.6F,
+             .minStrength = 0.3F,
+             .maxStrength = 1.0F},
+            seed + 40);
+  Field gouge(sheet);
+  gouges.Draw(sheet, gouge, {.profile = StrokeProfile::kVee, .ragged = 0.6F, .seed = seed + 41});
+
+  // Runs of paint, each ending in a drop, from wherever too much was put on.
+  StrokeSet runs;
+  const float area = static_cast<float>(sheet.width) * static_cast<float>(sheet.height);
+  for (int i = 0; i < FloorInt(area / 52000.0F); ++i) {
+    Dice dice(seed + 42, i);
+    const float x = dice.Unit() * static_cast<float>(sheet.width);
+    const float y = dice.Unit() * static_cast<float>(sheet.height);
+    const float length = 30.0F + 190.0F * Square(dice.Unit());
+    const float width = dice.Between(2.5F, 5.5F);
+    const StrokePoint points[] = {
+        {x, y, width * 0.5F, 0.0F},
+        {x + dice.Around(0.0F, 1.5F), y + 0.5F * length, width * 0.8F, 0.6F},
+        {x + dice.Around(0.0F, 2.0F), y + length, width * 1.3F, 1.0F}};
+    runs.Add(points);
+  }
+  Field run(sheet);
+  runs.Draw(sheet, run, {.profile = StrokeProfile::kRound});
+
+  const Survey<PlateSpot> plates(sheet, [&](Spot p) { return PlateAt(p.fx, p.fy, seed); });
+  const Survey<RivetSpot> rivets(sheet, [&](Spot p) { return RivetAt(plates(p)); });
+
+  // How far the coats have gone: each coat ends at a level of its own.
+  const Field worn = Painted(sheet, [&](Spot p) {
+    const PlateSpot& at = plates(p);
+    const RivetSpot& rivet = rivets(p);
+    const Spot q = torn(p);
+    const float lap = Min(at.v, at.toFoot);
+    const float weak = 0.22F * Exp(-lap / 16.0F) +
+                       0.34F * rivet.age * rivet.age * SmoothRamp(34.0F, 10.0F, rivet.distance);
+    const float chip = 0.55F * SmoothRamp(0.0F, 0.6F, chips(q).depth);
+    return 0.07F + wear(q) + weak + chip * SoftThreshold(wear(p), -0.1F, 0.5F) + 0.25F * gouge(p);
   });
-  const Field weep = RunDown(
-      chip, [&](Spot p) { return 0.988F + 0.011F * LineNoise(p.fx / 5.0F, seed + 40); },
-      [&](Spot p) { return 0.2F * LineNoise(p.fy / 70.0F, seed + 41); });
+
+  // Pits that were painted over, in swarms.
+  const Spots holes{15.0F, 0.6F, 1.2F, 6.5F, seed + 34};
+  const Fbm swarm{140.0F, 4, 0.55F, seed + 35};
+  const auto pit = [&](Spot p) {
+    return SmoothRamp(0.0F, 0.7F, holes(torn(p)).depth) * SoftThreshold(swarm(p), 0.20F, 0.35F);
+  };
 
   Field height = Painted(sheet, [&](Spot p) {
-    const PlateSpot at = PlateAt(p.fx, p.fy, seed);
-    // Upper plates lap over lower ones; ends butt with a narrow groove.
-    const float lap = 0.22F * SmoothRamp(0.0F, 3.0F, at.toFoot) - 0.11F;
-    const float groove = 0.30F * SmoothRamp(4.0F, 1.5F, Min(at.u, at.toEnd));
-    const float level = 0.06F * (Unit(at.plate) - 0.5F);
-    const float rivet = NearestRivet(at);
-    const float dome = rivet < kRivet ? Sqrt(1.0F - Square(rivet / kRivet)) : 0.0F;
+    const PlateSpot& at = plates(p);
+    const RivetSpot& rivet = rivets(p);
+    const float w = worn(p);
+    float h = 0.5F + 0.05F * (Unit(at.plate) - 0.5F) + 0.06F * buckle(p);
+    // The upper plate laps over the lower one and falls off at its foot.
+    h += 0.12F * SmoothRamp(60.0F, 0.0F, at.toFoot) - 0.12F * SmoothRamp(40.0F, 0.0F, at.v);
     const float dent = dents(pushed(p)).depth;
-    float h = 0.5F + lap * SmoothRamp(60.0F, 0.0F, at.toFoot) + level - groove + 0.34F * dome;
-    h -= 0.22F * dent * dent * (3.0F - 2.0F * dent);
-    h += 0.10F * buckle(p) + 0.045F * coat(p) + 0.035F * orangePeel(p);
-    h -= chip(p) * (0.14F - 0.10F * grit(p));
-    h += 0.07F * weep(p) * (1.0F - chip(p));
-    return h;
+    h -= 0.16F * dent * dent * (3.0F - 2.0F * dent);
+    if (rivet.distance < kRivet) h += 0.40F * Sqrt(1.0F - Square(rivet.distance / kRivet));
+    h += 0.26F * Weld(at, at.plate);
+
+    const float coats = SoftThreshold(w, 0.40F, 0.05F) + SoftThreshold(w, 0.52F, 0.05F) +
+                        SoftThreshold(w, 0.62F, 0.05F);
+    const float bare = SoftThreshold(w, 0.62F, 0.05F);
+    const float rust = SoftThreshold(w, 0.70F, 0.06F);
+    h -= 0.10F * coats;
+    // Rims of broken coats stand up a little.
+    h += 0.09F * SmoothRamp(0.34F, 0.40F, w) * SmoothRamp(0.415F, 0.40F, w);
+    const float blister = blisters(torn(p)).depth * SoftThreshold(w, 0.16F, 0.3F) *
+                          (1.0F - SoftThreshold(w, 0.40F, 0.05F));
+    h += 0.24F * Sqrt(blister);
+    h += (0.05F * lumps(p) + 0.095F * peel(p)) * (1.0F - bare) + 0.16F * run(p) * (1.0F - bare);
+    h += (0.12F + 0.14F * rust) * bare * crust(p) - 0.30F * pit(p);
+    return h - 0.34F * gouge(p) * (1.0F - 0.5F * rust);
   });
   Repaint(sheet, height, [&](Spot p) { return 1.0F - height(p); });
-  StretchTo(sheet, height, 0.001F, 0.999F);
+  StretchTo(sheet, height, 0.0005F, 0.9995F);
   return height;
 }
 

@@ -4,51 +4,32 @@
 //
 // What makes it read as that: losses that follow the grain and respect the
 // boards, flakes whose rims stand up and throw a shadow, raised grain in the
-// bare wood, nails with a rust run under each.
+// bare wood, nails in line with a rust run under each.
 #include "builder/texture_recipe.h"
 #include "toolbox/cells.h"
 #include "toolbox/filters.h"
 #include "toolbox/hash.h"
 #include "toolbox/maths.h"
 #include "toolbox/noise.h"
+#include "toolbox/planks.h"
 #include "toolbox/tone.h"
 
 namespace tarnwick::content {
 namespace {
 
-constexpr float kBoard = 218.0F;  // mean height of a board, pixels
-
-struct Board {
-  int index;
-  float toGap;  // pixels to the nearer gap
-  float v;      // 0 at its top, 1 at its foot
-};
-
-Board BoardAt(float x, float y, std::uint32_t seed) {
-  const auto edge = [&](int i) {
-    return (static_cast<float>(i) + 0.22F * (Unit(HashAt(i, 0, seed)) - 0.5F)) * kBoard +
-           1.6F * LineNoise(x / 260.0F, seed + 1 + static_cast<std::uint32_t>(i));
-  };
-  int index = FloorInt(y / kBoard);
-  if (y < edge(index)) --index;
-  if (y >= edge(index + 1)) ++index;
-  const float top = edge(index);
-  const float foot = edge(index + 1);
-  return {index, Min(y - top, foot - y), (y - top) / (foot - top)};
-}
-
 Field Paint(const Sheet& sheet) {
   const std::uint32_t seed = sheet.seed;
-  const auto shift = [&](int board) { return static_cast<float>(board) * 911.0F; };
+  const Planks planks{.seed = seed};
+  const Survey<Planks::Place> places(sheet, [&](Spot p) { return planks.At(p.fx, p.fy); });
+  const Survey<Planks::Nail> nails(sheet, [&](Spot p) { return planks.NailAt(p.fx, p.fy); });
+  // Every plank is cut from another tree and painted on another day.
+  const auto shift = [](const Planks::Place& at) { return Unit(at.plank) * 9000.0F; };
 
-  // Grain: long fibres that bend around nothing in particular, softer and
-  // harder bands, each board cut from another tree.
   const Fbm bend{420.0F, 3, 0.5F, seed + 10};
   const Fbm bands{26.0F, 3, 0.6F, seed + 11};
   const Fbm fibre{3.6F, 3, 0.7F, seed + 12};
-  Field grain = Painted(sheet, [&](Spot p) {
-    const Board board = BoardAt(p.fx, p.fy, seed);
-    const float x = p.fx + shift(board.index);
+  const Field grain = Painted(sheet, [&](Spot p) {
+    const float x = p.fx + shift(places(p));
     const float y = p.fy + 26.0F * bend(x * 0.35F, p.fy);
     return 0.6F * bands(x * 0.035F, y) + 0.5F * fibre(x * 0.022F, y);
   });
@@ -57,56 +38,76 @@ Field Paint(const Sheet& sheet) {
   const Fbm nibble{30.0F, 4, 0.62F, seed + 21};
   const Cells flakes{44.0F, 1.0F, seed + 22};
   const Warp crooked{9.0F, {26.0F, 3, 0.6F, seed + 23}};
-  Field loss = Painted(sheet, [&](Spot p) {
-    const Board board = BoardAt(p.fx, p.fy, seed);
-    const float x = p.fx + shift(board.index);
-    const float luck = Unit(HashAt(board.index, 7, seed)) - 0.5F;
+  const Field loss = Painted(sheet, [&](Spot p) {
+    const Planks::Place& at = places(p);
+    const float x = p.fx + shift(at);
+    const float luck = Unit(Hash(at.plank)) - 0.5F;
     const Spot q = crooked(p);
-    const CellSample flake = flakes((q.fx + shift(board.index)) * 0.42F, q.fy);
+    const CellSample flake = flakes((q.fx + shift(at)) * 0.42F, q.fy);
     return 0.95F * weather(x * 0.5F, p.fy) + 0.34F * (flake.id - 0.5F) + 0.22F * grain(p) +
-           0.16F * nibble(x * 0.4F, p.fy) + 0.30F * luck + 0.40F * Exp(-board.toGap / 14.0F);
+           0.16F * nibble(x * 0.4F, p.fy) + 0.34F * luck + 0.40F * Exp(-at.toGap / 14.0F) +
+           0.45F * Exp(-at.toEnd / 22.0F) - 0.02F;
   });
   const Field topCoat =
       Painted(sheet, [&](Spot p) { return 1.0F - SoftThreshold(loss(p), 0.10F, 0.035F); });
   const Field firstCoat =
       Painted(sheet, [&](Spot p) { return 1.0F - SoftThreshold(loss(p), 0.34F, 0.04F); });
-
-  // A flake lifts along its rim: what the coat has over its own blur.
-  Field spreadTop = topCoat;
-  Blur(sheet, spreadTop, 7.0F);
+  Field around = topCoat;
+  Blur(sheet, around, 7.0F);
   Field shade = topCoat;
   Blur(sheet, shade, 3.0F);
 
-  const Fbm brush{4.0F, 2, 0.6F, seed + 30};
-  const Fbm dirt{180.0F, 5, 0.55F, seed + 31};
-  const auto gapOf = [&](Spot p) {
-    return SmoothRamp(5.0F, 1.0F, BoardAt(p.fx, p.fy, seed).toGap);
+  const auto gapAt = [&](Spot p) {
+    const Planks::Place& at = places(p);
+    return Max(SmoothRamp(4.5F, 1.0F, at.toGap), SmoothRamp(3.0F, 0.8F, at.toEnd));
   };
-  Field height = Painted(sheet, [&](Spot p) {
-    const float lift = topCoat(p) * (1.0F - spreadTop(p)) * 1.1F;
+  const auto nailHead = [&](Spot p) {
+    const float d = nails(p).distance / 7.0F;
+    return d < 1.0F ? Sqrt(1.0F - d * d) : 0.0F;
+  };
+  const Fbm brush{4.0F, 2, 0.6F, seed + 30};
+  const Fbm dirt{180.0F, 5, 0.58F, seed + 31};
+  const Field height = Painted(sheet, [&](Spot p) {
+    // A flake lifts along its rim: where the coat is more than all around.
+    const float lift = topCoat(p) * (1.0F - around(p)) * 1.1F;
     return 0.45F * topCoat(p) + 0.30F * firstCoat(p) + lift +
-           (1.0F - 0.75F * firstCoat(p)) * 0.40F * grain(p) + 0.05F * brush(p.fx * 0.06F, p.fy) -
-           1.4F * gapOf(p);
+           (1.0F - 0.75F * firstCoat(p)) * 0.40F * grain(p) + 0.06F * brush(p.fx * 0.06F, p.fy) -
+           1.4F * gapAt(p) + 1.2F * nailHead(p);
   });
   const Field light = Relief(sheet, height, 0.20F);
 
-  // Hair cracks across and along the grain where the coat still holds.
+  // Hair cracks where the coat still holds, wide in some places and a mere
+  // thought in others.
   const Cells crazing{30.0F, 1.0F, seed + 40};
-  Field tone = Painted(sheet, [&](Spot p) {
-    const Board board = BoardAt(p.fx, p.fy, seed);
-    const float wood = 0.30F + 0.24F * grain(p) + 0.05F * dirt(p);
-    const float first = 0.56F + 0.07F * dirt(p) + 0.05F * grain(p);
-    const float top = 0.87F + 0.09F * dirt(p) + 0.03F * brush(p.fx * 0.06F, p.fy);
-    float value = Mix(Mix(wood, first, firstCoat(p)), top, topCoat(p));
+  const Fbm open{46.0F, 3, 0.6F, seed + 41};
+  const auto crack = [&](Spot p) {
+    const float tired = SmoothRamp(-0.50F, 0.02F, loss(p)) * topCoat(p);
+    if (tired <= 0.0F) return 0.0F;
     const Spot q = crooked(p);
-    const CellSample cell = crazing.WithEdge((q.fx + shift(board.index)) * 0.38F, q.fy);
-    const float tired = SmoothRamp(-0.45F, 0.05F, loss(p)) * topCoat(p);
-    value -= 0.30F * tired * SmoothRamp(0.06F, 0.02F, cell.edge);
+    const CellSample cell = crazing.WithEdge((q.fx + shift(places(p))) * 0.38F, q.fy);
+    const float width = 0.05F + 0.05F * open(p);
+    return tired * SmoothRamp(Max(width, 0.02F), 0.012F, cell.edge) * (0.5F + 0.7F * open(p));
+  };
+  Field tone = Painted(sheet, [&](Spot p) {
+    const Planks::Place& at = places(p);
+    const float fade = 0.06F * (Unit(Hash(at.plank + 1)) - 0.5F);
+    const float wood = 0.28F + 0.26F * grain(p) + 0.07F * dirt(p) + fade;
+    const float first = 0.55F + 0.10F * dirt(p) + 0.07F * grain(p) - fade;
+    const float top = 0.87F + 0.13F * dirt(p) + 0.05F * brush(p.fx * 0.06F, p.fy) + fade;
+    float value = Mix(Mix(wood, first, firstCoat(p)), top, topCoat(p));
+    value -= 0.40F * Max(0.0F, crack(p));
     // The shadow that a lifted rim throws, down and to the right.
-    const float cover = shade.Sample(p.fx - 4.0F, p.fy - 5.0F);
-    value *= 1.0F - 0.55F * cover * (1.0F - topCoat(p));
+    value *= 1.0F - 0.55F * shade.Sample(p.fx - 4.0F, p.fy - 5.0F) * (1.0F - topCoat(p));
     value += 0.17F * light(p);
-    return value * (1.0F - 0.92F * gapOf(p)) * (1.0F - 0.25F * Exp(-board.toGap / 9.0F));
+    const Planks::Nail& nail = nails(p);
+    const float trail = SmoothRamp(4.0F + 3.0F * nail.age, 0.0F, Abs(nail.aside + 2.0F * open(p))) *
+                        SmoothRamp(40.0F + 150.0F * nail.age, 4.0F, nail.below) *
+                        (nail.below > 0.0F ? 1.0F : 0.0F);
+    const float ring = SmoothRamp(17.0F, 6.0F, nail.distance);
+    value *= 1.0F - (0.25F + 0.35F * nail.age) * Max(trail, ring) * (0.8F + 0.4F * open(p));
+    if (nail.distance < 7.0F) value = 0.24F + 0.3F * light(p);
+    return value * (1.0F - 0.92F * gapAt(p)) *
+           (1.0F - 0.25F * Exp(-Min(at.toGap, at.toEnd) / 9.0F));
   });
   StretchTo(sheet, tone, 0.002F, 0.995F);
   return tone;

@@ -4,123 +4,156 @@
 //
 // What makes it read as that: scratches in bundles that share a direction, each
 // with its own pressure and skips; scuffs that are many hair lines and not a
-// grey veil; wear that gathers at the rim and is torn, not blurred.
+// grey veil; wear that gathers at the rim and is torn, not blurred; emulsion
+// that breaks off in little plates along a crease.
 #include "builder/texture_recipe.h"
 #include "toolbox/cells.h"
 #include "toolbox/hash.h"
 #include "toolbox/maths.h"
 #include "toolbox/noise.h"
+#include "toolbox/scratches.h"
 #include "toolbox/strokes.h"
 #include "toolbox/tone.h"
 
 namespace tarnwick::content {
 namespace {
 
-// Long cuts right across, alone or two or three side by side.
-void AddCuts(StrokeSet& cuts, const Sheet& sheet) {
-  Dice dice(sheet.seed);
-  const float w = static_cast<float>(sheet.width);
-  const float h = static_cast<float>(sheet.height);
-  for (int i = 0; i < 26; ++i) {
-    const float x = dice.Between(-0.05F, 1.0F) * w;
-    const float y = dice.Between(0.0F, 1.0F) * h;
-    // Most run along the long way of the print, as it slid in and out.
-    const float heading = dice.Chance(0.7F) ? dice.Around(0.12F, 0.35F) : dice.Between(0.0F, kTau);
-    Walk walk{.length = dice.Between(180.0F, 1500.0F),
-              .heading = heading,
-              .bend = dice.Around(0.0F, 0.03F),
-              .wobble = 0.05F,
-              .radius = dice.Between(0.5F, 1.5F),
-              .strength = dice.Between(0.6F, 1.1F),
-              .taper = 0.3F,
-              .skip = dice.Between(0.4F, 1.8F),
-              .skipPeriod = dice.Between(20.0F, 90.0F)};
-    const int lines = dice.Chance(0.35F) ? 3 : 1;
-    for (int k = 0; k < lines; ++k) {
-      AddWalk(cuts, x + dice.Around(0.0F, 7.0F),
-              y + static_cast<float>(k) * dice.Between(3.0F, 9.0F), walk, dice.Word());
-      walk.radius *= 0.6F;
-      walk.length *= dice.Between(0.4F, 0.9F);
-    }
-  }
-}
+// Most damage runs the long way, as the print slid in and out of its sleeve.
+constexpr float kLongWay = 0.14F;
 
-// Scuffs: hair lines by the hundred, side by side where something rubbed.
-void AddScuffs(StrokeSet& hairs, const Sheet& sheet) {
-  Dice dice(sheet.seed + 1);
-  const float w = static_cast<float>(sheet.width);
-  const float h = static_cast<float>(sheet.height);
-  for (int i = 0; i < 34; ++i) {
-    const float cx = dice.Unit() * w;
-    const float cy = dice.Unit() * h;
-    const float heading = dice.Chance(0.6F) ? dice.Around(0.15F, 0.5F) : dice.Between(0.0F, kPi);
-    const float along = dice.Between(50.0F, 240.0F);
-    const float across = dice.Between(20.0F, 90.0F);
-    const int lines = FloorInt(dice.Between(20.0F, 110.0F));
-    for (int k = 0; k < lines; ++k) {
-      const float u = dice.Around(0.0F, 0.5F) * along;
-      const float v = dice.Around(0.0F, 0.5F) * across;
-      const Walk walk{.length = dice.Between(0.2F, 1.0F) * along,
-                      .heading = heading + dice.Around(0.0F, 0.12F),
-                      .bend = dice.Around(0.0F, 0.1F),
-                      .radius = dice.Between(0.2F, 0.55F),
-                      .strength = dice.Between(0.2F, 0.75F),
-                      .taper = 0.4F,
-                      .skip = 1.0F,
-                      .skipPeriod = 25.0F};
-      AddWalk(hairs, cx + Cos(heading) * u - Sin(heading) * v,
-              cy + Sin(heading) * u + Cos(heading) * v, walk, dice.Word());
-    }
-  }
+void AddAllScratches(StrokeSet& cuts, StrokeSet& hairs, const Sheet& sheet) {
+  const std::uint32_t seed = sheet.seed;
+  AddScratches(cuts, sheet,
+               {.count = 40,
+                .minLength = 200.0F,
+                .maxLength = 1500.0F,
+                .heading = kLongWay,
+                .spread = 0.30F,
+                .stray = 0.3F,
+                .minRadius = 0.5F,
+                .maxRadius = 1.7F,
+                .minStrength = 0.55F,
+                .maxStrength = 1.1F,
+                .skip = 1.3F,
+                .companions = 3},
+               seed);
+  // A few that went deep: a coin or a key, which cuts several lines at once.
+  AddScuffs(cuts, sheet,
+            {.count = 11,
+             .minLength = 70.0F,
+             .maxLength = 460.0F,
+             .heading = 0.5F,
+             .spread = 0.9F,
+             .stray = 0.3F,
+             .slender = 0.12F,
+             .minLines = 7,
+             .maxLines = 16,
+             .minRadius = 0.5F,
+             .maxRadius = 1.5F,
+             .minStrength = 0.6F,
+             .maxStrength = 1.1F},
+            seed + 1);
+  AddScuffs(hairs, sheet,
+            {.count = 64,
+             .minLength = 60.0F,
+             .maxLength = 300.0F,
+             .heading = kLongWay,
+             .spread = 0.45F,
+             .stray = 0.35F,
+             .minLines = 20,
+             .maxLines = 170,
+             .minRadius = 0.2F,
+             .maxRadius = 0.65F,
+             .minStrength = 0.2F,
+             .maxStrength = 0.85F},
+            seed + 2);
   // Single hairs everywhere keep the ground from looking new.
-  for (int i = 0; i < 900; ++i) {
-    const Walk walk{.length = dice.Between(15.0F, 160.0F),
-                    .heading = dice.Between(0.0F, kTau),
-                    .bend = dice.Around(0.0F, 0.25F),
-                    .radius = dice.Between(0.15F, 0.5F),
-                    .strength = dice.Between(0.15F, 0.6F),
-                    .taper = 0.4F,
-                    .skip = 0.8F};
-    AddWalk(hairs, dice.Unit() * w, dice.Unit() * h, walk, dice.Word());
-  }
+  AddScratches(hairs, sheet,
+               {.count = 1300,
+                .minLength = 15.0F,
+                .maxLength = 170.0F,
+                .heading = kLongWay,
+                .spread = 0.5F,
+                .stray = 0.6F,
+                .minRadius = 0.15F,
+                .maxRadius = 0.5F,
+                .minStrength = 0.12F,
+                .maxStrength = 0.6F,
+                .skip = 0.8F,
+                .companions = 1},
+               seed + 3);
 }
 
-// How much a place was handled, 0..1: the rim most, and a few places within.
+// How much a place was handled: the rim most, here more and there less, and
+// some patches within.
 float Handling(const Sheet& sheet, Spot p) {
   const float toSide = Min(p.fx, static_cast<float>(sheet.width - 1) - p.fx);
   const float toEnd = Min(p.fy, static_cast<float>(sheet.height - 1) - p.fy);
-  const float rim = Exp(-Min(toSide, toEnd) / 28.0F);
-  const float corner = Exp(-(toSide + toEnd) / 110.0F);
-  const Fbm patches{430.0F, 3, 0.5F, sheet.seed + 20};
-  const float patch = SmoothRamp(0.25F, 0.9F, patches(p));
-  return Clamp01(0.75F * rim + 0.8F * corner + 0.5F * patch);
+  const Fbm uneven{300.0F, 3, 0.55F, sheet.seed + 21};
+  const float luck = Clamp01(0.55F + 0.9F * uneven(p));
+  const float rim = Exp(-Min(toSide, toEnd) / (6.0F + 34.0F * luck));
+  const float corner = Exp(-(toSide + toEnd) / 95.0F);
+  const Fbm patches{380.0F, 3, 0.5F, sheet.seed + 20};
+  return 0.80F * rim * (0.45F + 0.55F * luck) + 0.7F * corner +
+         0.42F * SmoothRamp(0.15F, 0.85F, patches(p));
+}
+
+// The crease of a corner that was folded over: pixels to its line.
+float ToCrease(const Sheet& sheet, Spot p) {
+  const float x = static_cast<float>(sheet.width) - p.fx;
+  const Fbm bow{160.0F, 4, 0.5F, sheet.seed + 25};
+  return Abs(x * 0.79F + p.fy * 0.61F - 330.0F + 5.0F * bow(p));
 }
 
 Field Paint(const Sheet& sheet) {
+  const std::uint32_t seed = sheet.seed;
   StrokeSet cuts;
   StrokeSet hairs;
-  AddCuts(cuts, sheet);
-  AddScuffs(hairs, sheet);
+  AddAllScratches(cuts, hairs, sheet);
   Field cut(sheet);
-  cuts.Draw(sheet, cut, {.ragged = 0.6F, .raggedPeriod = 3.5F, .seed = sheet.seed + 5});
+  cuts.Draw(sheet, cut, {.ragged = 0.9F, .raggedPeriod = 4.0F, .seed = seed + 5});
   Field hair(sheet);
-  hairs.Draw(sheet, hair, {.ragged = 0.25F, .raggedPeriod = 3.0F, .seed = sheet.seed + 6});
+  hairs.Draw(sheet, hair, {.ragged = 0.25F, .raggedPeriod = 3.0F, .seed = seed + 6});
 
-  const Fbm grit{7.0F, 3, 0.7F, sheet.seed + 30};
-  const Fbm tear{70.0F, 5, 0.6F, sheet.seed + 31};
-  const Warp torn{5.0F, {14.0F, 3, 0.6F, sheet.seed + 32}};
-  const Spots chips{58.0F, 0.10F, 1.2F, 13.0F, sheet.seed + 33};
-  const Spots dust{17.0F, 0.10F, 0.5F, 1.8F, sheet.seed + 34};
+  const Fbm grit{6.0F, 3, 0.75F, seed + 30};
+  // Rubbing leaves grit in lines, so the noise is drawn out along the way.
+  const Fbm rub{9.0F, 4, 0.7F, seed + 31};
+  const Fbm tear{64.0F, 5, 0.62F, seed + 32};
+  const Warp torn{11.0F, {17.0F, 4, 0.62F, seed + 33}};
+  const Spots chips{90.0F, 0.30F, 0.8F, 13.0F, seed + 34};
+  const Fbm brittle{240.0F, 4, 0.55F, seed + 35};
+  const Cells shards{15.0F, 1.0F, seed + 38};
+  const Cells plates{12.0F, 1.0F, seed + 36};
+  const Spots dust{16.0F, 0.10F, 0.5F, 1.9F, seed + 37};
   return Painted(sheet, [&](Spot p) {
     const float handling = Handling(sheet, p);
-    // Rubbed through: the grit of the paper shows first, then all of it.
-    const float rubbed =
-        SoftThreshold(handling * 1.15F + 0.30F * tear(p) + 0.16F * grit(p), 0.74F, 0.16F);
-    const float veil = 0.30F * SmoothRamp(0.25F, 0.9F, handling + 0.35F * grit(p));
-    const float chip = SoftThreshold(chips(torn(p)).depth, 0.12F, 0.14F);
+    const float along = p.fx * Cos(kLongWay) + p.fy * Sin(kLongWay);
+    const float across = p.fy * Cos(kLongWay) - p.fx * Sin(kLongWay);
+    const float line = rub(along * 0.14F, across);
+    const float edge = 0.24F * tear(p) + 0.13F * grit(p) + 0.20F * line;
+    const float rubbed = SoftThreshold(handling + edge, 0.62F, 0.13F);
+    const float veil = 0.50F * SmoothRamp(0.24F, 0.85F, handling + 0.6F * line + 0.2F * grit(p));
+
+    // Chips break off in shards: whole plates near a weak point, no discs.
+    const Spot q = torn(p);
+    const float weak = brittle(p);
+    const CellSample shard = shards(q.fx, q.fy);
+    const Spots::Hit hit = chips(p.fx + shard.dx * 9.0F, p.fy + shard.dy * 9.0F);
+    const float chip = SoftThreshold(hit.depth + 0.5F * shard.id, 0.62F - 0.2F * weak, 0.05F) *
+                       SoftThreshold(hit.depth, 0.06F, 0.05F) *
+                       SoftThreshold(weak + 0.5F * handling, -0.08F, 0.1F);
+    // The fold cracked the emulsion on both sides of its line and took some.
+    const float crease = ToCrease(sheet, p);
+    const CellSample plate = plates.WithEdge(q.fx, q.fy);
+    const float lost = SoftThreshold(plate.id + 0.5F * weak, 0.62F + crease / 26.0F, 0.05F);
+    const float cracks = SmoothRamp(0.08F, 0.02F, plate.edge) *
+                         SmoothRamp(Max(8.0F, 30.0F + 40.0F * weak), 4.0F, crease);
+    const float ridge = SmoothRamp(1.7F + weak, 0.4F, crease) * (0.75F + 0.5F * weak);
+    const float fold = Max(lost, Max(0.55F * cracks, ridge));
+
     const float speck = SoftThreshold(dust(p).depth, 0.25F, 0.4F) * 0.8F;
-    const float damage = Max(Max(Max(cut(p), chip), Max(rubbed, speck)), Max(hair(p), veil));
-    return 1.0F - Clamp01(damage);
+    const float broken = Max(Max(chip, rubbed), Max(cut(p), fold));
+    return 1.0F - Clamp01(Max(Max(broken, speck), Max(hair(p), veil)));
   });
 }
 

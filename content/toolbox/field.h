@@ -77,6 +77,33 @@ template <class Paint>
   return field;
 }
 
+// What a recipe knows of every place of a sheet, when that is more than a
+// number and too costly to work out twice. T is a plain record.
+template <class T>
+class Survey {
+ public:
+  // look(spot) at every place, under the same terms as in Repaint.
+  template <class Look>
+  Survey(const Sheet& sheet, const Look& look)
+      : width_(static_cast<std::size_t>(sheet.width)),
+        found_(width_ * static_cast<std::size_t>(sheet.height)) {
+    ForRows(sheet.pool, 0, sheet.height, [&](int first, int last) {
+      for (int y = first; y < last; ++y) {
+        T* row = found_.data() + static_cast<std::size_t>(y) * width_;
+        const float fy = static_cast<float>(y);
+        for (int x = 0; x < sheet.width; ++x) row[x] = look(Spot{x, y, static_cast<float>(x), fy});
+      }
+    });
+  }
+  [[nodiscard]] const T& operator()(const Spot& spot) const {
+    return found_[static_cast<std::size_t>(spot.y) * width_ + static_cast<std::size_t>(spot.x)];
+  }
+
+ private:
+  std::size_t width_;
+  std::vector<T> found_;
+};
+
 // 0..1 to 0..255, rounded, limited. A grain of less than half a step, by
 // place, keeps slow ramps from showing bands; 0 and 1 stay exactly 0 and 255.
 [[nodiscard]] std::vector<std::uint8_t> ToBytes(const Sheet& sheet, const Field& field);

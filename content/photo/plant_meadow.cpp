@@ -1,0 +1,110 @@
+#include <array>
+
+#include "barn.h"
+#include "camera.h"
+#include "noise.h"
+#include "planting.h"
+#include "portable_math.h"
+#include "terrain.h"
+#include "tufts.h"
+
+namespace tarnwick::photo {
+namespace {
+
+// How deep inside the barn's walls, negative outside; metres.
+float InsideBarn(float x, float z) {
+  return Min(Min(-x, x + kBarnWidth), Min(-z, z + kBarnLength));
+}
+
+class Meadow {
+ public:
+  Meadow(Scene& scene, float detail) : scene_(scene), detail_(detail), view_(1000, 667) {}
+
+  void Plant() {
+    std::array<int, 3> lawn;
+    std::array<int, 3> tall;
+    for (std::uint32_t i = 0; i < 3; ++i) {
+      lawn[i] = scene_.AddMesh(MakeTuft({40 + i, Count(190), 0.30f, 0.15f, 0.0042f, 0.16f, 3}));
+      tall[i] = scene_.AddMesh(MakeTuft({50 + i, Count(130), 0.17f, 0.42f, 0.0050f, 0.24f, 4}));
+    }
+    const int ears = scene_.AddMesh(MakeSeedHeads(61, 9, 0.55f));
+    const int weed = scene_.AddMesh(MakeWeed(62, 0.42f));
+    const int rosette = scene_.AddMesh(MakeWeed(63, 0.12f));
+    const int daisy = scene_.AddMesh(MakeFlowers(64, 7, 0.20f, 0.3f));
+    const int yellow = scene_.AddMesh(MakeFlowers(65, 6, 0.26f, 0.75f));
+    const int coarse = scene_.AddMesh(MakeTuft({66, Count(420), 1.1f, 0.30f, 0.014f, 0.30f, 2}));
+
+    Random random(81);
+    Scatter(0.21f, 0, 26, [&](float x, float z, float away) {
+      const float wear = TrackWear(x, z);
+      if (random.Unit() < wear * 1.25f - 0.05f) return;
+      if (away > 12 && random.Unit() < 0.35f) return;
+      const float rank = Fbm2(x * 0.55f, z * 0.55f, 3);
+      const float wall = Smooth(0.75f, 0.15f, -InsideBarn(x, z)) * (1 - wear);
+      const float size = (0.78f + 0.75f * rank) * (1 - 0.6f * wear) + 0.35f * wall;
+      if (rank + wall * 0.75f > 0.30f + 0.35f * random.Unit()) {
+        Put(tall[random.Word() % 3], x, z, Clamp(size, 0.5f, 1.15f), random);
+      } else {
+        Put(lawn[random.Word() % 3], x, z, Clamp(size, 0.35f, 1.3f), random);
+      }
+    });
+    Scatter(0.65f, 0, 30, [&](float x, float z, float) {
+      const float wear = TrackWear(x, z);
+      const float wall = Smooth(0.7f, 0.2f, -InsideBarn(x, z));
+      const float lot = random.Unit();
+      const float patch = Noise2(x * 0.4f + 7, z * 0.4f);
+      if (wear > 0.5f) return;
+      if (lot < 0.16f + 0.3f * wall) Put(weed, x, z, random.Range(0.5f, 1.0f) * (0.75f + 0.5f * wall), random);
+      else if (lot < 0.38f) Put(ears, x, z, random.Range(0.7f, 1.1f), random);
+      else if (lot < 0.55f) Put(rosette, x, z, random.Range(0.6f, 1.1f), random);
+      else if (lot < 0.62f + 0.3f * patch) Put(daisy, x, z, random.Range(0.8f, 1.1f), random);
+      else if (lot > 0.95f + 0.25f * patch) Put(yellow, x, z, random.Range(0.8f, 1.1f), random);
+    });
+    Scatter(0.85f, 22, 75, [&](float x, float z, float away) {
+      Put(coarse, x, z, random.Range(0.6f, 1.05f) * (away < 28 ? 0.6f : 1.0f), random);
+    });
+  }
+
+ private:
+  [[nodiscard]] int Count(int full) const {
+    return full < 8 ? full : 4 + static_cast<int>(static_cast<float>(full - 4) * detail_);
+  }
+
+  void Put(int mesh, float x, float z, float scale, Random& random) {
+    const float dry = Saturate(0.5f + 0.9f * Fbm2(x * 0.23f + 3, z * 0.23f, 3));
+    scene_.AddInstance(mesh, {{x, TerrainHeight(x, z) - 0.01f, z}, random.Unit() * 6.2832f, scale, random.Signed() * 0.08f}, dry);
+  }
+
+  // Calls plant(x, z, distance) on a jittered grid, where the camera looks.
+  template <typename Place>
+  void Scatter(float spacing, float nearest, float farthest, Place&& plant) {
+    Random random(HashWord(static_cast<std::uint32_t>(spacing * 1000)));
+    const Vec3 eye = view_.Position();
+    const float pitch = spacing / std::sqrt(Max(detail_, 0.05f));
+    const int n = static_cast<int>(farthest / pitch);
+    for (int j = -n; j <= n; ++j) {
+      for (int i = -n; i <= n; ++i) {
+        const float x = eye.x + (static_cast<float>(i) + random.Unit()) * pitch;
+        const float z = eye.z + (static_cast<float>(j) + random.Unit()) * pitch;
+        const Vec3 to = Vec3{x, TerrainHeight(x, z) + 0.1f, z} - eye;
+        const float away = Length(to);
+        if (away < nearest || away > farthest || InsideBarn(x, z) > -0.10f) continue;
+        float px = 0;
+        float py = 0;
+        const float margin = 700 / (away + 0.5f) + 20;
+        if (!view_.Project(to, px, py) || px < -margin || px > 1000 + margin || py > 667 + 3 * margin) continue;
+        plant(x, z, away);
+      }
+    }
+  }
+
+  Scene& scene_;
+  const float detail_;
+  const Camera view_;
+};
+
+}  // namespace
+
+void PlantMeadow(Scene& scene, float detail) { Meadow(scene, detail).Plant(); }
+
+}  // namespace tarnwick::photo

@@ -1,0 +1,68 @@
+#include <array>
+
+#include "noise.h"
+#include "planting.h"
+#include "terrain.h"
+#include "trees.h"
+
+namespace tarnwick::photo {
+namespace {
+
+class Woods {
+ public:
+  Woods(Scene& scene, float detail) : scene_(scene), random_(207) {
+    const auto leaves = [&](int full) { return 3 + static_cast<int>(static_cast<float>(full) * detail); };
+    near_[0] = scene.AddMesh(MakeTree({3, 9.5f, 3.5f, 0.16f, 19, 12, 9, leaves(26), 0.085f}));
+    near_[1] = scene.AddMesh(MakeTree({8, 8.0f, 3.1f, 0.10f, 17, 11, 9, leaves(26), 0.085f}));
+    shrub_ = scene.AddMesh(MakeTree({15, 2.6f, 1.5f, 0.02f, 13, 8, 6, leaves(17), 0.070f}));
+    for (std::uint32_t i = 0; i < 3; ++i)
+      far_[i] = scene.AddMesh(MakeTree({21 + i, 9.0f, 3.4f - 0.4f * static_cast<float>(i), 0.08f, 13, 8, 4, leaves(9), 0.26f}));
+  }
+
+  void Plant() {
+    // The two by the barn, and one out of sight that dapples its front.
+    Put(near_[0], -7.6f, -9.0f, 1.12f, 0.35f);
+    Put(near_[1], 5.2f, -22.0f, 1.05f, 0.7f);
+    Put(near_[1], -13.5f, -5.5f, 1.0f, 0.25f);
+    Put(shrub_, -7.2f, -1.6f, 0.9f, 0.4f);
+    Put(shrub_, 2.0f, -12.0f, 0.95f, 0.6f);
+    Put(shrub_, 0.4f, -9.6f, 0.75f, 0.3f);
+    // Hedges along the fields.
+    Row({-80, 0, -60}, {90, 0, -75}, 44, 0.35f, 0.75f);
+    Row({22, 0, -30}, {60, 0, -80}, 16, 0.3f, 0.7f);
+    Row({-120, 0, -140}, {160, 0, -170}, 60, 0.5f, 1.0f);
+    Row({-200, 0, -250}, {260, 0, -270}, 80, 0.7f, 1.1f);
+    // The hills: woods with clearings.
+    for (int i = 0; i < 5200; ++i) {
+      const float z = -330 - 900 * random_.Unit();
+      const float x = random_.Range(-1.1f, 0.7f) * (-z);
+      if (Noise2(x * 0.006f + 5, z * 0.006f) + 0.3f * Noise2(x * 0.02f, z * 0.02f) < -0.08f) continue;
+      Put(far_[random_.Word() % 3], x, z, random_.Range(1.0f, 1.6f), random_.Unit());
+    }
+  }
+
+ private:
+  void Put(int mesh, float x, float z, float scale, float seed) {
+    scene_.AddInstance(mesh, {{x, TerrainHeight(x, z) - 0.05f * scale, z}, random_.Unit() * 6.2832f, scale}, seed);
+  }
+  void Row(Vec3 from, Vec3 to, int count, float least, float most) {
+    for (int i = 0; i < count; ++i) {
+      const float t = (static_cast<float>(i) + random_.Signed() * 0.45f) / static_cast<float>(count);
+      const Vec3 p = Mix(from, to, t) + Vec3{random_.Signed() * 2, 0, random_.Signed() * 3};
+      const float size = random_.Unit();
+      Put(far_[random_.Word() % 3], p.x, p.z, Mix(least, most, size * size), random_.Unit());
+    }
+  }
+
+  Scene& scene_;
+  Random random_;
+  std::array<int, 2> near_{};
+  std::array<int, 3> far_{};
+  int shrub_ = 0;
+};
+
+}  // namespace
+
+void PlantTrees(Scene& scene, float detail) { Woods(scene, detail).Plant(); }
+
+}  // namespace tarnwick::photo
