@@ -158,6 +158,11 @@ VImage BackToCmyk(const VImage& image, const std::vector<std::uint8_t>& profile)
   return lab.icc_export(options);
 }
 
+VImage ToUntaggedRgb(const VImage& image) {
+  if (ProfileSpace(image) != "RGB ") return WithoutProfile(image);
+  return WithoutProfile(ThroughProfileToRgb(image, nullptr));
+}
+
 VImage ToGrey(const VImage& file, PictureNotes& notes) {
   VImage image = ToEightBits(file, notes);
   const int colors = ColorPlanes(image);

@@ -23,6 +23,10 @@ void ToPaintable(const vips::VImage& image, Picture& picture, PictureNotes& note
 [[nodiscard]] vips::VImage BackToCmyk(const vips::VImage& image,
                                       const std::vector<std::uint8_t>& profile);
 
+// Colours by sRGB where a profile says otherwise, without the profile then.
+// Throws vips::VError.
+[[nodiscard]] vips::VImage ToUntaggedRgb(const vips::VImage& image);
+
 // One plane of lightness, 8-bit, on white where it is transparent.
 [[nodiscard]] vips::VImage ToGrey(const vips::VImage& image, PictureNotes& notes);
 

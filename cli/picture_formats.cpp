@@ -9,25 +9,25 @@
 namespace tarnwick {
 namespace {
 
-// color, alpha, cmyk, manyPlanes, lossy
+// color, alpha, cmyk, manyPlanes, profile, lossy
 constexpr std::array<PictureFormat, 17> kFormats = {{
-    {"jpg", true, false, true, false, true},
-    {"jpeg", true, false, true, false, true},
-    {"jpe", true, false, true, false, true},
-    {"png", true, true, false, false, false},
-    {"tif", true, true, true, true, false},
-    {"tiff", true, true, true, true, false},
-    {"webp", true, true, false, false, true},
-    {"avif", true, true, false, false, true},
-    {"heic", true, true, false, false, true},
-    {"jxl", true, true, false, false, true},
-    {"jp2", true, true, false, false, true},
-    {"gif", true, true, false, false, false},
-    {"ppm", true, false, false, false, false},
-    {"pnm", true, false, false, false, false},
-    {"pgm", false, false, false, false, false},
-    {"v", true, true, true, true, false},
-    {"vips", true, true, true, true, false},
+    {"jpg", true, false, true, false, true, true},
+    {"jpeg", true, false, true, false, true, true},
+    {"jpe", true, false, true, false, true, true},
+    {"png", true, true, false, false, true, false},
+    {"tif", true, true, true, true, true, false},
+    {"tiff", true, true, true, true, true, false},
+    {"webp", true, true, false, false, true, true},
+    {"avif", true, true, false, false, true, true},
+    {"heic", true, true, false, false, true, true},
+    {"jxl", true, true, false, false, true, true},
+    {"jp2", true, true, false, false, false, true},
+    {"gif", true, true, false, false, false, false},
+    {"ppm", true, false, false, false, false, false},
+    {"pnm", true, false, false, false, false, false},
+    {"pgm", false, false, false, false, false, false},
+    {"v", true, true, true, true, true, false},
+    {"vips", true, true, true, true, true, false},
 }};
 
 }  // namespace

@@ -13,6 +13,7 @@ struct PictureFormat {
   bool alpha;                  // keeps transparency
   bool cmyk;                   // keeps cyan, magenta, yellow, black
   bool manyPlanes;             // keeps planes beyond alpha
+  bool profile;                // says what its colours mean; else they are sRGB
   bool lossy;                  // heeds --quality
 };
 

@@ -22,6 +22,9 @@ vips::VOption* WritingOptions(const PictureFormat& format, const VImage& image, 
     options->set("optimize_coding", true)
         ->set("subsample_mode", quality >= kFullColorQuality ? VIPS_FOREIGN_SUBSAMPLE_OFF
                                                              : VIPS_FOREIGN_SUBSAMPLE_ON);
+  } else if (name == "png") {
+    // For photographs this is both smaller and faster than no filter at level 6.
+    options->set("compression", 3)->set("filter", VIPS_FOREIGN_PNG_FILTER_PAETH);
   } else if (name == "webp") {
     options->set("smart_subsample", quality >= kFullColorQuality);
   } else if (name.starts_with("tif")) {
@@ -59,6 +62,18 @@ VImage Adapt(const VImage& picture, const PictureFormat& format, PictureNotes& n
   return image;
 }
 
+// The library gives a picture without EXIF a block of its own that calls the
+// colours uncalibrated; what has no profile is sRGB.
+VImage WithColorSpaceTag(const VImage& image) {
+  if (image.get_typeof(VIPS_META_EXIF_NAME) != 0 || image.get_typeof(VIPS_META_ICC_NAME) != 0 ||
+      image.interpretation() == VIPS_INTERPRETATION_CMYK) {
+    return image;
+  }
+  VImage tagged = image.copy();
+  tagged.set("exif-ifd2-ColorSpace", "1");
+  return tagged;
+}
+
 }  // namespace
 
 void SaveImage(const VImage& image, const std::string& path, const std::string& shown,
@@ -77,7 +92,12 @@ void SavePicture(const Picture& picture, const std::string& path, const std::str
   VImage image;
   try {
     image = Adapt(picture.image, format, notes);
-    if (picture.fromCmyk && format.cmyk) image = BackToCmyk(image, picture.cmykProfile);
+    if (picture.fromCmyk && format.cmyk) {
+      image = BackToCmyk(image, picture.cmykProfile);
+    } else if (!format.profile) {
+      image = ToUntaggedRgb(image);
+    }
+    image = WithColorSpaceTag(image);
   } catch (const vips::VError&) {
     FailInput(shown, "colours cannot be converted: " + VipsFault("unknown fault"));
   }
