@@ -31,7 +31,7 @@ Vec3 DomeDirection(float u, float v) {
 }  // namespace
 
 const Sun& TheSun() {
-  static const Sun sun{Normalized({0.86f, 0.36f, 0.36f}), Vec3{1.0f, 0.80f, 0.56f} * 3.9f, 0.012f};
+  static const Sun sun{Normalized({0.74f, 0.44f, 0.42f}), Vec3{1.0f, 0.80f, 0.56f} * 3.9f, 0.012f};
   return sun;
 }
 
