@@ -5,6 +5,7 @@
 
 #include "base/progress.h"
 #include "base/thread_pool.h"
+#include "engine/view_mode.h"
 #include "settings/effect_settings.h"
 #include "textures/texture_alerts.h"
 
@@ -21,17 +22,6 @@ class RowColorConverter {
   virtual ~RowColorConverter() = default;
   virtual bool RgbToCmyk(std::uint8_t* pixels, int count) = 0;
   virtual bool CmykToRgb(std::uint8_t* pixels, int count) = 0;
-};
-
-// What a render shows.
-enum class ViewMode : std::uint8_t {
-  kComposite = 0,
-  kWashOne = 1,
-  kWashTwo = 2,
-  kBackground = 3,
-  kSurfaceOne = 4,
-  kSurfaceTwo = 5,
-  kOriginal = 6,
 };
 
 // A picture to age. Nothing is owned; all of it must outlive the call.
@@ -80,9 +70,9 @@ enum class ApplyOutcome {
 
 // A part of the picture at a reduced scale, as a live preview shows it.
 struct PreviewWindow {
-  int scale = 1;                 // document pixels for each shown pixel, >= 1
-  int x = 0, y = 0;              // top left, in shown pixels, >= 0
-  int width = 0, height = 0;     // in shown pixels, >= 1
+  int scale = 1;              // document pixels for each shown pixel, >= 1
+  int x = 0, y = 0;           // top left, in shown pixels, >= 0
+  int width = 0, height = 0;  // in shown pixels, >= 1
   ViewMode view = ViewMode::kComposite;
 };
 

@@ -10,6 +10,9 @@ class TextureAlerts {
  public:
   virtual ~TextureAlerts() = default;
   virtual void TextureAlert(const std::string& text) = 0;
+  // The reader's own complaint, with the system's reason, for whoever wants to
+  // know the cause; comes before the alert, and for disabled effects too.
+  virtual void TextureFault(const std::string& text) { (void)text; }
 };
 
 }  // namespace tarnwick

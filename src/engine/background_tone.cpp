@@ -1,0 +1,143 @@
+#include <algorithm>
+#include <array>
+#include <cstring>
+
+#include "base/truncate.h"
+#include "engine/background_render.h"
+#include "imaging/hls_color.h"
+
+namespace tarnwick {
+namespace {
+
+using Pixel = std::array<std::uint8_t, 4>;
+
+struct Area {
+  const RasterImage& texture;
+  int width;
+  int height;
+};
+
+// The darkest and brightest tone, 0..1, a tenth of the range inside its ends.
+struct EnhancedRange {
+  float low = 255;
+  float high = 0;
+};
+
+float ToneOf(const EffectLayer& layer, std::size_t sample) {
+  return static_cast<float>(layer.intensityTable[sample]) / 255.0F;
+}
+
+// Which samples the area holds.
+std::array<bool, 256> SamplesOf(const Area& area) {
+  std::array<bool, 256> seen{};
+  for (int y = 0; y < area.height; ++y) {
+    const std::uint8_t* const row = area.texture.PeekInterior() + y * area.texture.RowBytes();
+    for (int x = 0; x < area.width; ++x) seen[row[x]] = true;
+  }
+  return seen;
+}
+
+EnhancedRange RangeOf(const EffectLayer& layer, const Area& area) {
+  EnhancedRange range;
+  const std::array<bool, 256> seen = SamplesOf(area);
+  for (std::size_t i = 0; i < seen.size(); ++i) {
+    if (!seen[i]) continue;
+    range.low = std::min(range.low, ToneOf(layer, i));
+    range.high = std::max(range.high, ToneOf(layer, i));
+  }
+  const float span = range.high - range.low;
+  if (span != 0.0F) {
+    const double margin = 0.1 * static_cast<double>(span);
+    range.low = static_cast<float>(static_cast<double>(range.low) + margin);
+    range.high = static_cast<float>(static_cast<double>(range.high) - margin);
+  }
+  return range;
+}
+
+struct ToneLook {
+  const EffectLayer& layer;
+  float saturation;
+  float hueShift;
+  bool enhanced;
+  EnhancedRange range;
+
+  [[nodiscard]] bool Adjusts() const { return enhanced || hueShift != 0.0F || saturation != 1.0F; }
+};
+
+int Scaled(int value, float factor) {
+  return TruncateToInt(static_cast<float>(value) * factor);
+}
+
+// The darkest tones fade to black, the brightest light up: steep shoulders.
+void Enhance(const EnhancedRange& range, float t, HlsColor& color) {
+  if (t < range.low) {
+    const float f = std::max(1.0F - (range.low - t) * 4.0F, 0.0F);
+    color.saturation = Scaled(color.saturation, f);
+    color.lightness = Scaled(color.lightness, f);
+  } else if (t > range.high) {
+    const float f = (t - range.high) * 5.0F + 1.0F;
+    color.saturation = std::min(Scaled(color.saturation, f), kHlsMax);
+    color.lightness = std::min(Scaled(color.lightness, f), kHlsMax);
+  }
+}
+
+Pixel TonedPixel(const ToneLook& look, float t) {
+  const bool dark = t <= 0.65F;
+  const float w = dark ? (0.65F - t) * 1.5384616F : (t - 0.65F) * 2.857143F;
+  const LayerColor& outer = dark ? look.layer.shadowColor : look.layer.highlightColor;
+  const LayerColor& middle = look.layer.midtoneColor;
+  std::array<int, 3> c{};
+  for (std::size_t i = 0; i < 3; ++i) {
+    c[i] = static_cast<int>(static_cast<float>(outer[i]) * w +
+                            static_cast<float>(middle[i]) * (1.0F - w));
+  }
+  if (look.Adjusts()) {
+    HlsColor hls = RgbToHls(c[0], c[1], c[2]);
+    hls.hue = TruncateToInt(static_cast<float>(hls.hue) + look.hueShift);
+    hls.saturation = Scaled(hls.saturation, look.saturation);
+    if (look.enhanced) Enhance(look.range, t, hls);
+    const RgbColor rgb = HlsToRgb(hls.hue, hls.lightness, hls.saturation);
+    c = {std::clamp(rgb.red, 0, 255), std::clamp(rgb.green, 0, 255), std::clamp(rgb.blue, 0, 255)};
+  }
+  return {static_cast<std::uint8_t>(c[0]), static_cast<std::uint8_t>(c[1]),
+          static_cast<std::uint8_t>(c[2]), 255};
+}
+
+// A tone depends on its grey alone.
+std::array<Pixel, 256> ToneTable(const ToneLook& look) {
+  std::array<Pixel, 256> table{};
+  for (std::size_t i = 0; i < table.size(); ++i) {
+    table[i] = TonedPixel(look, ToneOf(look.layer, i));
+  }
+  return table;
+}
+
+}  // namespace
+
+void RenderBackgroundTone(EffectLayer& layer, RenderState& state, const EffectSettings& settings) {
+  if (!layer.toneDirty || layer.working == nullptr || !state.backgroundPixels) return;
+  const RasterImage& texture = *layer.working;
+  if (texture.PeekInterior() == nullptr) return;
+  const Area area{texture, std::min(texture.Width(), state.renderWidth),
+                  std::min(texture.Height(), state.renderHeight)};
+  ToneLook look{layer,
+                static_cast<float>(settings.BackgroundMidtone) / 100.0F,
+                static_cast<float>(settings.BackgroundHue) * 1.275F,
+                // One byte of the field counts.
+                (settings.BackgroundEnhancedMode & 0xFF) != 0,
+                {}};
+  if (look.enhanced) look.range = RangeOf(layer, area);
+  const std::array<Pixel, 256> table = ToneTable(look);
+
+  ForRowsReporting(state.pool, &state.progress, area.height, [&](int first, int last) {
+    for (int y = first; y < last; ++y) {
+      const std::uint8_t* const in = texture.PeekInterior() + y * texture.RowBytes();
+      std::uint8_t* const out =
+          state.backgroundPixels.Data() + static_cast<std::ptrdiff_t>(y) * state.renderRowBytes;
+      for (int x = 0; x < area.width; ++x) std::memcpy(out + 4 * x, table[in[x]].data(), 4);
+    }
+  });
+  layer.toneDirty = false;
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,24 @@
+#pragma once
+#include "engine/apply_run.h"
+#include "engine/render_state.h"
+
+namespace tarnwick {
+
+// The road between a picture's own samples and the render's 4-byte pixels.
+
+// Fills state.sourcePixels from `job.in` for the window of `state`, by nearest
+// neighbour, and starts outputPixels as a copy of it. Beyond the picture the
+// last row and column repeat. kBadPicture never; kOutOfMemory, kNoConverter as
+// in apply_run.h.
+[[nodiscard]] ApplyOutcome FetchSource(RenderState& state, const PictureJob& job);
+
+// Writes state.outputPixels to `job.out`: below 4 planes alpha is multiplied in,
+// so transparency turns black.
+[[nodiscard]] ApplyOutcome WriteResult(const RenderState& state, const PictureJob& job);
+
+// One byte a pixel of the whole document, job.width a row: alpha (255 below 4
+// planes, else the fourth sample) times the selection, / 255 truncated. False
+// without memory.
+[[nodiscard]] bool BuildSelectionPlane(const PictureJob& job, PageBuffer<std::uint8_t>& plane);
+
+}  // namespace tarnwick

@@ -1,0 +1,20 @@
+#include "engine/render_buffers.h"
+
+#include <cstring>
+
+namespace tarnwick {
+
+void AllocateBackgroundBuffer(RenderState& state) {
+  (void)state.backgroundPixels.Allocate(state.PixelCount() * 4);
+}
+
+void AllocateSurfaceBuffers(RenderState& state) {
+  (void)state.depthMap.Allocate(state.PixelCount());
+  state.surfaceStale = true;
+  if (!state.previewMode || !state.sourcePixels) return;
+  if (state.surfaceResult.Allocate(state.PixelCount() * 4)) {
+    std::memcpy(state.surfaceResult.Data(), state.sourcePixels.Data(), state.PixelCount() * 4);
+  }
+}
+
+}  // namespace tarnwick

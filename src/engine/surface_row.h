@@ -1,0 +1,47 @@
+#pragma once
+#include <cstdint>
+#include <vector>
+
+#include "engine/shade_color.h"
+
+namespace tarnwick {
+
+// What the surface stage does with a shaded pixel.
+enum class SurfaceOutput : std::uint8_t {
+  kBlend,       // the picture with its relief
+  kPure,        // the tone colour alone
+  kSourceOnly,  // the picture as it is
+};
+
+struct SurfaceLook {
+  ShadeLook shade;
+  float intensity = 1;  // of the blend, 0..1
+  SurfaceOutput output = SurfaceOutput::kBlend;
+  bool entire = false;    // the tone colour fills what is transparent
+  bool keepSave = false;  // and is written to `save` too
+};
+
+// Floats for one row, three colours each.
+struct SurfaceScratch {
+  explicit SurfaceScratch(int width);
+  std::vector<float> light;          // `width`
+  std::vector<std::uint8_t> pixels;  // `width` x 4
+  std::vector<float> source[3];
+  std::vector<float> tone[3];
+  std::vector<float> blend[3];
+};
+
+// One row of `width` pixels: `scratch.light` is the brightness, `scratch.pixels`
+// the picture, with the alpha that counts. Writes `out`, and `save` if
+// look.keepSave and look.entire ask for it; both 4 bytes a pixel.
+struct SurfaceRow {
+  SurfaceScratch* scratch;
+  std::uint8_t* out;
+  std::uint8_t* save;
+  int width;
+};
+
+void SurfaceRowPlain(const SurfaceRow& row, const SurfaceLook& look);
+void SurfaceRowAvx2(const SurfaceRow& row, const SurfaceLook& look);
+
+}  // namespace tarnwick
