@@ -49,7 +49,7 @@ PresetLineTarget ApplyPresetLine(const PresetLine& line, EffectSettings& setting
     StoreColor(key, cursor, session);
     return {key, nullptr};
   }
-  StoreValue(*field, cursor, settings, session.settings);
+  StoreValue(*field, cursor, settings, session.settingsSession);
   ApplyPresetSideEffects(key, settings, session.PresetVersion);
   if (session.PresetVersion == 1) ConvertFromVersion1(key, settings);
   return {key, field};

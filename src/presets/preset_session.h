@@ -8,10 +8,10 @@ namespace tarnwick {
 // What presets change besides the record. One lives as long as the module and
 // is handed to every read.
 struct PresetSession {
-  explicit PresetSession(SettingsSession& session) : settings(session) {}
+  explicit PresetSession(SettingsSession& session) : settingsSession(session) {}
 
-  // The link flags; not owned.
-  SettingsSession& settings;
+  // For the link flags; not owned.
+  SettingsSession& settingsSession;
 
   // The form of the lines being read, 1 or 2. A file's version line sets it and
   // nothing sets it back: a file without one is read as the file before it.
