@@ -21,6 +21,14 @@ GreyPicture Blank(int width, int height, std::uint8_t value) {
               static_cast<std::size_t>(width) * static_cast<std::size_t>(height), value)};
 }
 
+void Paste(const GreyPicture& picture, int left, int top, GreyPicture& onto) {
+  for (int y = 0; y < picture.height; ++y) {
+    std::copy_n(picture.samples.begin() + static_cast<std::ptrdiff_t>(At(picture, 0, y)),
+                picture.width,
+                onto.samples.begin() + static_cast<std::ptrdiff_t>(At(onto, left, top + y)));
+  }
+}
+
 // Where cell `index` of `count` begins along a side of `length`.
 int Boundary(int length, int index, int count) {
   return static_cast<int>(static_cast<std::int64_t>(length) * index / count);
@@ -72,6 +80,14 @@ GreyPicture ChooserTile(const GreyPicture& picture, int width, int height) {
   return tile;
 }
 
+GreyPicture Stacked(const GreyPicture& above, const GreyPicture& below) {
+  GreyPicture stack =
+      Blank(std::max(above.width, below.width), above.height + kGap + below.height, kPaper);
+  Paste(above, (stack.width - above.width) / 2, 0, stack);
+  Paste(below, (stack.width - below.width) / 2, above.height + kGap, stack);
+  return stack;
+}
+
 GreyPicture ContactSheet(const std::vector<GreyPicture>& pictures, int columns, int cellWidth,
                          int cellHeight) {
   const int count = static_cast<int>(pictures.size());
@@ -81,13 +97,8 @@ GreyPicture ContactSheet(const std::vector<GreyPicture>& pictures, int columns, 
       Blank(columns * (cellWidth + kGap) + kGap, rows * (cellHeight + kGap) + kGap, kPaper);
   for (int i = 0; i < count; ++i) {
     const GreyPicture& picture = pictures[static_cast<std::size_t>(i)];
-    const int left = kGap + i % columns * (cellWidth + kGap) + (cellWidth - picture.width) / 2;
-    const int top = kGap + i / columns * (cellHeight + kGap) + (cellHeight - picture.height) / 2;
-    for (int y = 0; y < picture.height; ++y) {
-      const auto row = picture.samples.begin() + static_cast<std::ptrdiff_t>(At(picture, 0, y));
-      std::copy_n(row, picture.width,
-                  sheet.samples.begin() + static_cast<std::ptrdiff_t>(At(sheet, left, top + y)));
-    }
+    Paste(picture, kGap + i % columns * (cellWidth + kGap) + (cellWidth - picture.width) / 2,
+          kGap + i / columns * (cellHeight + kGap) + (cellHeight - picture.height) / 2, sheet);
   }
   return sheet;
 }

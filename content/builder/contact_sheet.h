@@ -20,6 +20,9 @@ struct GreyPicture {
 // unfiltered.
 [[nodiscard]] GreyPicture ChooserTile(const GreyPicture& picture, int width, int height);
 
+// One picture below the other, both centred, on mid grey.
+[[nodiscard]] GreyPicture Stacked(const GreyPicture& above, const GreyPicture& below);
+
 // Pictures in rows of `columns`, each centred in a cell of the given size, on
 // mid grey.
 [[nodiscard]] GreyPicture ContactSheet(const std::vector<GreyPicture>& pictures, int columns,

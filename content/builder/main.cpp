@@ -133,9 +133,8 @@ int Build(const Options& options, const std::vector<TextureRecipe>& recipes) {
     const GreyPicture picture{recipe.width, recipe.height, ToBytes(sheet, field)};
     if (!WriteTexture(options, recipe, picture)) return kFailed;
     if (options.contactSheet.empty()) continue;
-    cells.push_back(ContactSheet(
-        {Reduced(picture, kCellWidth, kCellHeight), ChooserTile(picture, kTileWidth, kTileHeight)},
-        1, kCellWidth, kCellHeight));
+    cells.push_back(Stacked(Reduced(picture, kCellWidth, kCellHeight),
+                            ChooserTile(picture, kTileWidth, kTileHeight)));
   }
   if (!options.contactSheet.empty()) {
     int width = 1, height = 1;

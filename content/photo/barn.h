@@ -13,6 +13,12 @@ inline constexpr float kDoorCentre = -2.6f;
 inline constexpr float kDoorWidth = 2.5f;
 inline constexpr float kDoorHeight = 2.3f;
 
+// The windows of the long side: their middles and half sizes.
+inline constexpr float kWindowZ[2] = {-2.35f, -5.25f};
+inline constexpr float kWindowY = 1.55f;
+inline constexpr float kWindowHalfWidth = 0.42f;
+inline constexpr float kWindowHalfHeight = 0.52f;
+
 // Underside of the roof's tin above x.
 [[nodiscard]] float RoofHeight(float x);
 

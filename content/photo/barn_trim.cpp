@@ -16,9 +16,10 @@ void Bar(Mesh& mesh, Vec3 from, Vec3 to, Vec3 outward, float width, float thickn
 }
 
 // A window in the long side: frame, sash bars and four panes.
-void AddWindow(Mesh& mesh, float z, float y, Random& random) {
-  constexpr float w = 0.42f;
-  constexpr float h = 0.52f;
+void AddWindow(Mesh& mesh, float z, Random& random) {
+  constexpr float w = kWindowHalfWidth;
+  constexpr float h = kWindowHalfHeight;
+  constexpr float y = kWindowY;
   const Vec3 out{1, 0, 0};
   const auto bar = [&](Vec3 a, Vec3 b, float width, float thickness, float x) {
     Bar(mesh, a + Vec3{x, y, z}, b + Vec3{x, y, z}, out, width, thickness, Material::kBoardWhite, random.Unit());
@@ -27,13 +28,13 @@ void AddWindow(Mesh& mesh, float z, float y, Random& random) {
   bar({0, -h - 0.05f, w}, {0, h + 0.05f, w}, 0.10f, 0.028f, 0.026f);
   bar({0, h, -w - 0.09f}, {0, h, w + 0.09f}, 0.11f, 0.030f, 0.032f);
   bar({0, -h, -w - 0.10f}, {0, -h, w + 0.10f}, 0.06f, 0.085f, 0.05f);
-  bar({0, -h, 0}, {0, h, 0}, 0.034f, 0.024f, 0.017f);
-  bar({0, 0.02f, -w}, {0, 0.02f, w}, 0.034f, 0.024f, 0.017f);
+  bar({0, -h, 0}, {0, h, 0}, 0.034f, 0.026f, -0.006f);
+  bar({0, 0.02f, -w}, {0, 0.02f, w}, 0.034f, 0.026f, -0.005f);
   for (int i = 0; i < 4; ++i) {
     const float z0 = z + (i % 2 == 0 ? -w : 0.0f);
     const float y0 = y + (i / 2 == 0 ? -h : 0.0f);
     const float seed = random.Unit();
-    const auto p = [&](float a, float b) { return mesh.Add({{0.0115f, y0 + b * h, z0 + a * w}, {}, a, b}); };
+    const auto p = [&](float a, float b) { return mesh.Add({{-0.012f, y0 + b * h, z0 + a * w}, {}, a, b}); };
     mesh.Quad(p(0, 0), p(1, 0), p(1, 1), p(0, 1), Material::kGlass, seed);
   }
 }
@@ -65,8 +66,7 @@ void AddTrim(Mesh& mesh) {
           Material::kBareWood, random.Unit());
     }
   }
-  AddWindow(mesh, -2.35f, 1.55f, random);
-  AddWindow(mesh, -5.25f, 1.55f, random);
+  for (const float z : kWindowZ) AddWindow(mesh, z, random);
 }
 
 }  // namespace tarnwick::photo

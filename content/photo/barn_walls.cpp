@@ -36,6 +36,25 @@ void AddInside(Mesh& mesh) {
   wall({left, low, back}, {-in, low, back}, {-in, high, back}, {left, high, back});
 }
 
+// A board of the long side, in two pieces where a window is in its way.
+void AddSideBoard(Mesh& mesh, const Board& whole) {
+  for (const float z : kWindowZ) {
+    const float off = whole.origin.z - z;
+    if (whole.origin.x < -1 || (off < 0 ? -off : off) > kWindowHalfWidth + 0.02f) continue;
+    Board low = whole;
+    low.length = kWindowY - kWindowHalfHeight - whole.origin.y;
+    Board high = whole;
+    const float rise = kWindowY + kWindowHalfHeight - whole.origin.y;
+    high.origin.y += rise;
+    high.vStart += rise;
+    high.length -= rise;
+    AddBoard(mesh, low);
+    AddBoard(mesh, high);
+    return;
+  }
+  AddBoard(mesh, whole);
+}
+
 }  // namespace
 
 void AddWalls(Mesh& mesh) {
@@ -58,7 +77,8 @@ void AddWalls(Mesh& mesh) {
     const bool overDoor = middle > kDoorCentre - kDoorWidth / 2 && middle < kDoorCentre + kDoorWidth / 2;
     const float foot = overDoor ? kDoorHeight - 0.02f : kSill + random.Range(-0.035f, 0.02f);
     b.origin = {middle, foot, random.Range(-0.003f, 0.004f)};
-    b.length = RoofHeight(middle) - foot - 0.04f;
+    b.length = RoofHeight(middle) - foot - 0.015f;
+    b.topSlant = (middle < -kBarnWidth / 2 ? 1.0f : -1.0f) * (kRidgeHeight - kEaveHeight) / (kBarnWidth / 2);
     b.vStart = foot - kSill;
     b.steps = 10;
     AddBoard(mesh, b);
@@ -82,7 +102,7 @@ void AddWalls(Mesh& mesh) {
       b.origin = {side, foot, z - width / 2};
       b.length = kEaveHeight - foot + 0.06f;
       b.vStart = foot - kSill;
-      AddBoard(mesh, b);
+      AddSideBoard(mesh, b);
       z -= width;
     }
   }

@@ -32,7 +32,8 @@ void AddBoard(Mesh& mesh, const Board& b) {
     const float wave = b.warp * Noise2(v * 0.9f + b.seed * 61, b.seed * 97 + 3);
     const float edge = 0.4f * b.warp * Noise2(v * 3.1f, b.seed * 173 + (section[i][0] < 0 ? 0.0f : 9.5f));
     const float cup = b.warp * 0.8f * (b.seed - 0.4f) * (section[i][0] / h) * (section[i][0] / h);
-    return b.origin + b.along * v + b.across * (section[i][0] + edge) +
+    const float slant = b.topSlant * section[i][0] * (v / b.length);
+    return b.origin + b.along * (v + slant) + b.across * (section[i][0] + edge) +
            b.outward * (section[i][1] + wave + cup);
   };
   for (std::size_t i = 0; i < section.size(); ++i) {

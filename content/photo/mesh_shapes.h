@@ -17,6 +17,7 @@ struct Board {
   Material material = Material::kBareWood;
   float seed = 0;
   int steps = 8;          // pieces along the length
+  float topSlant = 0;     // the upper end is sawn off at this tangent
 };
 void AddBoard(Mesh& mesh, const Board& board);
 

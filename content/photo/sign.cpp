@@ -98,7 +98,7 @@ void DescribeSign(const Scene::Point& p, float footprint, Surface& s) {
   const float y = p.v;
   const float soft = Max(0.0010f, 0.5f * footprint);
   float white = 0;
-  white = Max(white, Smooth(0.0135f + soft, 0.0135f - soft, TextDistance("TARNWICK", 0.132f, 0.150f, x, y)));
+  white = Max(white, Smooth(0.0112f + soft, 0.0112f - soft, TextDistance("TARNWICK", 0.108f, 0.142f, x, y)));
   white = Max(white, Smooth(0.0078f + soft, 0.0078f - soft, TextDistance("DAIRY", 0.075f, -0.085f, x * 0.98f, y)));
   const float rule = Max(Abs(y + 0.028f) - 0.0035f, Abs(x) - 0.37f);
   white = Max(white, Smooth(soft, -soft, rule));

@@ -6,7 +6,9 @@
 namespace tarnwick::photo {
 namespace {
 
-constexpr float kLift = 0.0015f;  // rays start this far off their surface, metres
+constexpr float kLift = 0.0015f;      // rays start this far off their surface, metres
+constexpr float kShadowReach = 60;    // nothing that stands here throws a longer shadow
+constexpr float kAmbientReach = 16;   // beyond, light from around comes from sky and land
 
 enum Choice : std::uint32_t { kLens, kSunDisc, kAround, kFork, kMirror, kSunDisc2 };
 
@@ -59,8 +61,8 @@ Vec3 SunDiffuse(const Surface& s, Vec3 flatNormal, Vec3 eye, Vec3 l) {
 }
 
 // Light a bounced ray brings: the sky, or a surface in sun and sky.
-Vec3 Incoming(const Scene& scene, const Sky& sky, Vec3 from, Vec3 direction, const Choices& choices) {
-  const Ray ray{from, direction, 1e30f};
+Vec3 Incoming(const Scene& scene, const Sky& sky, Vec3 from, Vec3 direction, float reach, const Choices& choices) {
+  const Ray ray{from, direction, reach};
   Hit hit;
   if (!scene.Nearest(ray, hit)) return sky.Dome(direction);
   const Scene::Point p = scene.At(ray, hit);
@@ -74,7 +76,7 @@ Vec3 Incoming(const Scene& scene, const Sky& sky, Vec3 from, Vec3 direction, con
   choices.Pair(kSunDisc2, a, b);
   const Vec3 l = SunRay(a, b);
   const Vec3 sunlit = SunDiffuse(s, p.flatNormal, -direction, l);
-  if (Luminance(sunlit) > 0 && !scene.Blocked({Offset(p.position, p.flatNormal, l), l, 400}))
+  if (Luminance(sunlit) > 0 && !scene.Blocked({Offset(p.position, p.flatNormal, l), l, kShadowReach}))
     light += sunlit * sun.irradiance;
   return Min(light, {2.5f, 2.5f, 2.5f});
 }
@@ -90,8 +92,9 @@ void Choices::Pair(std::uint32_t index, float& a, float& b) const {
 }
 
 Sample TraceSample(const Scene& scene, const Sky& sky, const Camera& camera, float x, float y,
-                   const Choices& choices) {
+                   const Choices& choices, bool around) {
   Sample sample;
+  sample.around = around;
   float a = 0;
   float b = 0;
   choices.Pair(kLens, a, b);
@@ -112,13 +115,16 @@ Sample TraceSample(const Scene& scene, const Sky& sky, const Camera& camera, flo
   choices.Pair(kSunDisc, a, b);
   const Vec3 l = SunRay(a, b);
   const Vec3 lit = SunDiffuse(s, p.flatNormal, eye, l) + (Dot(p.flatNormal, eye) * Dot(p.flatNormal, l) > 0 ? Highlight(s, eye, l) : Vec3{});
-  if (Luminance(lit) > 0 && !scene.Blocked({Offset(p.position, p.flatNormal, l), l, 400})) direct = lit * sun.irradiance;
+  if (Luminance(lit) > 0 && !scene.Blocked({Offset(p.position, p.flatNormal, l), l, kShadowReach})) direct = lit * sun.irradiance;
 
   // One ray for the light around: mirrored, thrown back, or let through.
   const float facing = Max(Dot(s.normal, eye), 0);
   const float m = 1 - facing;
   const Vec3 fresnel = s.specular + (Vec3{1, 1, 1} - s.specular) * (m * m * m * m * m * (1 - 0.85f * s.roughness));
-  const float mirrorShare = Luminance(fresnel);
+  // Dull surfaces mirror so wide a cone that it is as good as diffuse.
+  const bool glossy = s.roughness < 0.5f;
+  const float mirrorShare = glossy ? Luminance(fresnel) : 0.0f;
+  const Vec3 sheen = glossy ? Vec3{} : fresnel * 0.6f;
   const float backShare = Luminance(s.albedo);
   const float throughShare = Luminance(s.through);
   const float total = mirrorShare + backShare + throughShare + 1e-6f;
@@ -126,21 +132,23 @@ Sample TraceSample(const Scene& scene, const Sky& sky, const Camera& camera, flo
   choices.Pair(kFork, fork, b);
   choices.Pair(kAround, a, b);
   fork *= total;
-  if (fork < mirrorShare) {
+  if (!around) {
+    // Every other ray leaves this out: the light from around is smooth.
+  } else if (mirrorShare > 0 && fork < mirrorShare) {
     // Rough surfaces mirror a cone about as wide as they are dull.
     const float spread = s.roughness * s.roughness;
     const Vec3 n = Normalized(Mix(s.normal, CosineAround(s.normal, a, b), spread * 0.7f));
     Vec3 d = ray.direction - n * (2 * Dot(n, ray.direction));
     const Vec3 side = Dot(p.flatNormal, eye) < 0 ? -p.flatNormal : p.flatNormal;
     if (Dot(d, side) < 0) d = d - side * (2 * Dot(d, side));
-    direct += Incoming(scene, sky, Offset(p.position, p.flatNormal, d), Normalized(d), choices) * fresnel * (total / mirrorShare);
+    sample.mirrored = haze.left * Incoming(scene, sky, Offset(p.position, p.flatNormal, d), Normalized(d), 1e30f, choices) * fresnel * (total / mirrorShare);
   } else {
     const bool back = fork < mirrorShare + backShare;
     const Vec3 n = back ? s.normal : -s.normal;
     const Vec3 d = CosineAround(n, a, b);
-    sample.ambient = Incoming(scene, sky, Offset(p.position, p.flatNormal, d), d, choices) * (total / (backShare + throughShare));
+    sample.ambient = Incoming(scene, sky, Offset(p.position, p.flatNormal, d), d, kAmbientReach, choices) * (total / (backShare + throughShare));
   }
-  sample.tint = (s.albedo + s.through) * haze.left;
+  sample.tint = (s.albedo + s.through + sheen) * haze.left;
   sample.direct = direct * haze.left + haze.added;
   sample.normal = s.normal;
   sample.distance = hit.distance;

@@ -17,6 +17,7 @@
 #include "toolbox/maths.h"
 #include "toolbox/noise.h"
 #include "toolbox/scratches.h"
+#include "toolbox/stains.h"
 #include "toolbox/strokes.h"
 #include "toolbox/tone.h"
 
@@ -112,21 +113,9 @@ Field Paint(const Sheet& sheet) {
   Field gouge(sheet);
   gouges.Draw(sheet, gouge, {.profile = StrokeProfile::kVee, .ragged = 0.6F, .seed = seed + 41});
 
-  // Runs of paint, each ending in a drop, from wherever too much was put on.
+  // Runs of paint from wherever too much was put on.
   StrokeSet runs;
-  const float area = static_cast<float>(sheet.width) * static_cast<float>(sheet.height);
-  for (int i = 0; i < FloorInt(area / 52000.0F); ++i) {
-    Dice dice(seed + 42, i);
-    const float x = dice.Unit() * static_cast<float>(sheet.width);
-    const float y = dice.Unit() * static_cast<float>(sheet.height);
-    const float length = 30.0F + 190.0F * Square(dice.Unit());
-    const float width = dice.Between(2.5F, 5.5F);
-    const StrokePoint points[] = {
-        {x, y, width * 0.5F, 0.0F},
-        {x + dice.Around(0.0F, 1.5F), y + 0.5F * length, width * 0.8F, 0.6F},
-        {x + dice.Around(0.0F, 2.0F), y + length, width * 1.3F, 1.0F}};
-    runs.Add(points);
-  }
+  AddDrips(runs, sheet, {.count = 60, .minLength = 30.0F, .maxLength = 220.0F}, seed + 42);
   Field run(sheet);
   runs.Draw(sheet, run, {.profile = StrokeProfile::kRound});
 

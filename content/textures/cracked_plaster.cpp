@@ -11,6 +11,7 @@
 #include "toolbox/filters.h"
 #include "toolbox/maths.h"
 #include "toolbox/noise.h"
+#include "toolbox/peel.h"
 #include "toolbox/stains.h"
 #include "toolbox/strokes.h"
 #include "toolbox/tone.h"
@@ -60,9 +61,9 @@ Field Paint(const Sheet& sheet) {
     const Spot q = broken(p);
     return hollow(q) + 0.30F * (lumps(q.fx, q.fy).id - 0.5F) + 2.6F * nearCrack(p);
   });
-  const Field gone = Painted(sheet, [&](Spot p) { return SoftThreshold(loss(p), 0.62F, 0.03F); });
-  Field shadow = gone;
-  Blur(sheet, shadow, 4.0F);
+  const PeelingCoat coat =
+      Peel(sheet, loss, {.at = 0.62F, .softness = 0.03F, .curl = 5.0F, .thickness = 6.0F});
+  const auto gone = [&](Spot p) { return 1.0F - coat.cover(p); };
 
   const Fbm trowel{130.0F, 4, 0.5F, seed + 20};
   const Fbm sweep{20.0F, 3, 0.5F, seed + 21};
@@ -96,9 +97,7 @@ Field Paint(const Sheet& sheet) {
     face *= 1.0F - 0.30F * mark(damp.Inside(p.fx, p.fy)) * (0.8F + 0.6F * dirt(p));
     const float base = 0.40F + 0.10F * coarse(p) + 0.08F * dirt(p) + 0.16F * grit(p).depth;
     float value = Mix(face, base, gone(p));
-    // The thickness of the plaster shades what lies below its upper rim.
-    const float cover = 1.0F - shadow.Sample(p.fx - 6.0F, p.fy - 8.0F);
-    value *= 1.0F - 0.55F * cover * gone(p);
+    value *= 1.0F - 0.55F * coat.shadow(p);
     value += 0.26F * light(p);
     return value * (1.0F - 0.90F * crack(p) * (1.0F - 0.5F * gone(p))) *
            (1.0F - 0.55F * fine(p) * (1.0F - gone(p))) * (1.0F - 0.18F * nearCrack(p));

@@ -11,6 +11,7 @@
 #include "toolbox/hash.h"
 #include "toolbox/maths.h"
 #include "toolbox/noise.h"
+#include "toolbox/peel.h"
 #include "toolbox/planks.h"
 #include "toolbox/tone.h"
 
@@ -48,14 +49,8 @@ Field Paint(const Sheet& sheet) {
            0.16F * nibble(x * 0.4F, p.fy) + 0.34F * luck + 0.40F * Exp(-at.toGap / 14.0F) +
            0.45F * Exp(-at.toEnd / 22.0F) - 0.02F;
   });
-  const Field topCoat =
-      Painted(sheet, [&](Spot p) { return 1.0F - SoftThreshold(loss(p), 0.10F, 0.035F); });
-  const Field firstCoat =
-      Painted(sheet, [&](Spot p) { return 1.0F - SoftThreshold(loss(p), 0.34F, 0.04F); });
-  Field around = topCoat;
-  Blur(sheet, around, 7.0F);
-  Field shade = topCoat;
-  Blur(sheet, shade, 3.0F);
+  const PeelingCoat top = Peel(sheet, loss, {.at = 0.10F, .softness = 0.035F});
+  const PeelingCoat first = Peel(sheet, loss, {.at = 0.34F, .softness = 0.04F, .thickness = 2.0F});
 
   const auto gapAt = [&](Spot p) {
     const Planks::Place& at = places(p);
@@ -68,11 +63,9 @@ Field Paint(const Sheet& sheet) {
   const Fbm brush{4.0F, 2, 0.6F, seed + 30};
   const Fbm dirt{180.0F, 5, 0.58F, seed + 31};
   const Field height = Painted(sheet, [&](Spot p) {
-    // A flake lifts along its rim: where the coat is more than all around.
-    const float lift = topCoat(p) * (1.0F - around(p)) * 1.1F;
-    return 0.45F * topCoat(p) + 0.30F * firstCoat(p) + lift +
-           (1.0F - 0.75F * firstCoat(p)) * 0.40F * grain(p) + 0.06F * brush(p.fx * 0.06F, p.fy) -
-           1.4F * gapAt(p) + 1.2F * nailHead(p);
+    return 0.45F * top.cover(p) + 0.30F * first.cover(p) + 1.1F * top.lift(p) +
+           0.3F * first.lift(p) + (1.0F - 0.75F * first.cover(p)) * 0.40F * grain(p) +
+           0.06F * brush(p.fx * 0.06F, p.fy) - 1.4F * gapAt(p) + 1.2F * nailHead(p);
   });
   const Field light = Relief(sheet, height, 0.20F);
 
@@ -81,7 +74,7 @@ Field Paint(const Sheet& sheet) {
   const Cells crazing{30.0F, 1.0F, seed + 40};
   const Fbm open{46.0F, 3, 0.6F, seed + 41};
   const auto crack = [&](Spot p) {
-    const float tired = SmoothRamp(-0.50F, 0.02F, loss(p)) * topCoat(p);
+    const float tired = SmoothRamp(-0.50F, 0.02F, loss(p)) * top.cover(p);
     if (tired <= 0.0F) return 0.0F;
     const Spot q = crooked(p);
     const CellSample cell = crazing.WithEdge((q.fx + shift(places(p))) * 0.38F, q.fy);
@@ -92,12 +85,11 @@ Field Paint(const Sheet& sheet) {
     const Planks::Place& at = places(p);
     const float fade = 0.06F * (Unit(Hash(at.plank + 1)) - 0.5F);
     const float wood = 0.28F + 0.26F * grain(p) + 0.07F * dirt(p) + fade;
-    const float first = 0.55F + 0.10F * dirt(p) + 0.07F * grain(p) - fade;
-    const float top = 0.87F + 0.13F * dirt(p) + 0.05F * brush(p.fx * 0.06F, p.fy) + fade;
-    float value = Mix(Mix(wood, first, firstCoat(p)), top, topCoat(p));
+    const float primer = 0.55F + 0.10F * dirt(p) + 0.07F * grain(p) - fade;
+    const float paint = 0.87F + 0.13F * dirt(p) + 0.05F * brush(p.fx * 0.06F, p.fy) + fade;
+    float value = Mix(Mix(wood, primer, first.cover(p)), paint, top.cover(p));
     value -= 0.40F * Max(0.0F, crack(p));
-    // The shadow that a lifted rim throws, down and to the right.
-    value *= 1.0F - 0.55F * shade.Sample(p.fx - 4.0F, p.fy - 5.0F) * (1.0F - topCoat(p));
+    value *= 1.0F - 0.55F * top.shadow(p) - 0.20F * first.shadow(p) * (1.0F - top.cover(p));
     value += 0.17F * light(p);
     const Planks::Nail& nail = nails(p);
     const float trail = SmoothRamp(4.0F + 3.0F * nail.age, 0.0F, Abs(nail.aside + 2.0F * open(p))) *

@@ -11,6 +11,7 @@
 #include "toolbox/filters.h"
 #include "toolbox/maths.h"
 #include "toolbox/noise.h"
+#include "toolbox/rust.h"
 #include "toolbox/tone.h"
 
 namespace tarnwick::content {
@@ -33,16 +34,11 @@ Field Paint(const Sheet& sheet) {
     const Spot q = grown(drawn(p));
     return old(q) + 0.20F * crust(p) + 0.07F * grain(p) + 0.10F * streak(p);
   });
-  const Spots spray{9.0F, 0.75F, 0.6F, 4.2F, seed + 40};
-  const Spots drops{40.0F, 0.6F, 2.0F, 15.0F, seed + 41};
-  // Powder: thick where `young` is high, thinning out in speckles around it.
+  const RustBloom bloom(seed + 40);
   const Field powder = Painted(sheet, [&](Spot p) {
     const Spot q = grown(p);
     const float reach = young(drawn(q)) - 0.35F * Max(0.0F, scab(p)) + 0.14F * streak(p);
-    const float dust = SoftThreshold(reach + 0.30F * crust(p) + 0.14F * grain(p), 0.40F, 0.50F);
-    const float drop = SoftThreshold(drops(q).depth + 0.8F * reach, 0.62F, 0.22F);
-    const float speckle = SoftThreshold(spray(p).depth + 1.1F * reach, 0.66F, 0.25F);
-    return Clamp01(dust + 0.55F * drop + 0.60F * speckle);
+    return bloom.At(p, q, reach);
   });
 
   const Cells splits{36.0F, 1.0F, seed + 50};

@@ -13,7 +13,7 @@ float Puddle::Inside(float px, float py) const {
   const float far = Length(dx, dy);
   // Noise stays within 1.5: beyond that nothing needs working out.
   const float most = radius * (1.0F + 1.5F * uneven) - far;
-  if (most < 0.0F) return most;
+  if (most < 0.0F) return most - 1.0F;
   const Fbm outline{radius / bays, 5, 0.5F, seed};
   return radius * (1.0F + uneven * outline(px, py)) - far;
 }
@@ -35,9 +35,9 @@ float CupRing::At(float px, float py) const {
   // Noise of the direction alone, so that the ring varies along and not across.
   const float ux = dx / far;
   const float uy = dy / far;
-  const Fbm along{0.55F, 4, 0.6F, seed};
+  const Fbm along{1.3F, 5, 0.58F, seed};
   const float amount =
-      SmoothRamp(1.0F - wet - 0.25F, 1.0F - wet + 0.25F, 0.5F + 0.8F * along(ux, uy));
+      SmoothRamp(1.0F - wet - 0.25F, 1.0F - wet + 0.25F, 0.5F + 0.9F * along(ux, uy));
   if (amount <= 0.0F) return 0.0F;
   const Fbm wander{0.9F, 3, 0.5F, seed + 7};
   const float breath = breadth * (0.35F + 0.65F * amount);
@@ -72,12 +72,14 @@ void AddSplash(StrokeSet& strokes, float x, float y, float reach, int drops, std
     Dice dice(seed, i);
     const float heading = dice.Between(0.0F, kTau);
     const float far = Square(dice.Unit());
-    const float radius = (1.0F - 0.8F * far) * reach * 0.045F * dice.Between(0.15F, 1.0F);
-    const float at = reach * (0.12F + 0.88F * far);
+    const float radius =
+        (1.0F - 0.8F * far) * reach * 0.045F * (0.12F + 0.88F * Square(dice.Unit()));
+    const float at = reach * (0.30F + 0.70F * far);
     const float tail = radius * dice.Between(0.0F, 3.0F) * far;
     const float ux = Cos(heading);
     const float uy = Sin(heading);
-    const StrokePoint points[] = {{x + ux * (at - tail), y + uy * (at - tail), radius * 0.4F, 1.0F},
+    const StrokePoint points[] = {{x + ux * (at - tail), y + uy * (at - tail),
+                                   Max(radius * 0.4F, radius - 0.5F * tail), 1.0F},
                                   {x + ux * at, y + uy * at, radius, 1.0F}};
     strokes.Add(points);
   }

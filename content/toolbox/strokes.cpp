@@ -34,6 +34,12 @@ void StrokeSet::Add(std::span<const StrokePoint> points) {
     const StrokePoint& a = points[i - 1];
     const StrokePoint& b = points[i];
     if (a.strength <= 0.0F && b.strength <= 0.0F) continue;
+    if (Abs(a.radius - b.radius) >= Length(b.x - a.x, b.y - a.y)) {
+      // The larger end swallows the smaller: between them is no cone to draw.
+      const StrokePoint& p = a.radius > b.radius ? a : b;
+      segments_.push_back({p.x, p.y, p.x, p.y, p.radius, p.radius, p.strength, p.strength});
+      continue;
+    }
     segments_.push_back({a.x, a.y, b.x, b.y, a.radius, b.radius, a.strength, b.strength});
   }
 }
