@@ -15,7 +15,9 @@ void AddLeaf(Mesh& mesh, float hinge, float side, float angle, Random& random) {
   const Vec3 pivot{hinge, 0, 0.035f};
   const Vec3 across{side * Cos(angle), 0, Sin(angle)};
   const Vec3 out{-side * Sin(angle), 0, Cos(angle)};
-  const auto at = [&](float a, float y, float depth) { return pivot + across * a + Vec3{0, y, 0} + out * depth; };
+  const auto at = [&](float a, float y, float depth) {
+    return pivot + across * a + Vec3{0, y, 0} + out * depth;
+  };
   float a = 0;
   while (a < width - 0.01f) {
     const float w = Min(random.Range(0.12f, 0.16f), width - a);
@@ -45,7 +47,8 @@ void AddLeaf(Mesh& mesh, float hinge, float side, float angle, Random& random) {
   constexpr float low = 0.36f;
   constexpr float high = 2.02f;
   constexpr float mid = 1.18f;
-  for (const float y : {low, mid, high}) brace(at(0.03f, y, 0.024f), at(width - 0.03f, y, 0.024f), 0.15f, 0.026f);
+  for (const float y : {low, mid, high})
+    brace(at(0.03f, y, 0.024f), at(width - 0.03f, y, 0.024f), 0.15f, 0.026f);
   brace(at(0.10f, low + 0.06f, 0.023f), at(width - 0.10f, mid - 0.06f, 0.023f), 0.13f, 0.024f);
   brace(at(0.10f, mid + 0.06f, 0.023f), at(width - 0.10f, high - 0.06f, 0.023f), 0.13f, 0.024f);
   // Strap hinges.
@@ -54,17 +57,21 @@ void AddLeaf(Mesh& mesh, float hinge, float side, float angle, Random& random) {
     strap.material = Material::kIron;
     strap.warp = 0.001f;
     AddBoard(mesh, strap);
-    const TubePoint pin[2] = {{at(0, y - 0.05f, 0.046f), 0.013f}, {at(0, y + 0.05f, 0.046f), 0.013f}};
+    const TubePoint pin[2] = {{at(0, y - 0.05f, 0.046f), 0.013f},
+                              {at(0, y + 0.05f, 0.046f), 0.013f}};
     AddTube(mesh, pin, 8, Material::kIron, 0.3f);
     for (int i = 0; i < 4; ++i) {
       const Vec3 head3 = at(0.08f + 0.16f * static_cast<float>(i), y, 0.044f);
-      const TubePoint bolt[3] = {{head3, 0.011f}, {head3 + out * 0.007f, 0.010f}, {head3 + out * 0.009f, 0.001f}};
+      const TubePoint bolt[3] = {
+          {head3, 0.011f}, {head3 + out * 0.007f, 0.010f}, {head3 + out * 0.009f, 0.001f}};
       AddTube(mesh, bolt, 8, Material::kIron, 0.6f);
     }
   }
   // A bar for the hand.
-  const TubePoint handle[4] = {{at(width - 0.14f, 1.06f, 0.02f), 0.008f}, {at(width - 0.14f, 1.075f, 0.075f), 0.009f},
-                               {at(width - 0.14f, 1.285f, 0.075f), 0.009f}, {at(width - 0.14f, 1.30f, 0.02f), 0.008f}};
+  const TubePoint handle[4] = {{at(width - 0.14f, 1.06f, 0.02f), 0.008f},
+                               {at(width - 0.14f, 1.075f, 0.075f), 0.009f},
+                               {at(width - 0.14f, 1.285f, 0.075f), 0.009f},
+                               {at(width - 0.14f, 1.30f, 0.02f), 0.008f}};
   AddTube(mesh, handle, 8, Material::kIron, 0.9f);
 }
 
@@ -86,7 +93,8 @@ void AddDoors(Mesh& mesh) {
   const float right = kDoorCentre + kDoorWidth / 2;
   frame({left - 0.06f, 0.08f, 0.026f}, {left - 0.06f, kDoorHeight + 0.08f, 0.026f}, 0.11f);
   frame({right + 0.06f, 0.08f, 0.026f}, {right + 0.06f, kDoorHeight + 0.08f, 0.026f}, 0.11f);
-  frame({left - 0.14f, kDoorHeight + 0.13f, 0.030f}, {right + 0.14f, kDoorHeight + 0.13f, 0.030f}, 0.13f);
+  frame({left - 0.14f, kDoorHeight + 0.13f, 0.030f}, {right + 0.14f, kDoorHeight + 0.13f, 0.030f},
+        0.13f);
   // The hatch of the hay loft.
   const float y = 3.15f;
   for (int i = 0; i < 5; ++i) {
@@ -96,7 +104,8 @@ void AddDoors(Mesh& mesh) {
     b.outward = {0, 0, 1};
     b.width = 0.150f;
     b.thickness = 0.022f;
-    b.origin = {kDoorCentre - 0.31f + 0.155f * static_cast<float>(i), y, 0.032f + random.Range(-0.002f, 0.002f)};
+    b.origin = {kDoorCentre - 0.31f + 0.155f * static_cast<float>(i), y,
+                0.032f + random.Range(-0.002f, 0.002f)};
     b.length = 0.80f;
     b.vStart = 1;
     b.material = Material::kBoardGreen;

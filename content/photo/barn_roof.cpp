@@ -27,7 +27,8 @@ void AddSheet(Mesh& mesh, const Sheet& s) {
       const float v = s.length * static_cast<float>(j) / rows;
       const float phase = u / kWave * 2 * kPi;
       const float t = v / s.length;
-      const float dent = 0.012f * Noise2(u * 1.9f + s.seed * 50, v * 1.4f) + 0.004f * Noise2(u * 7, v * 5 + s.seed * 31);
+      const float dent = 0.012f * Noise2(u * 1.9f + s.seed * 50, v * 1.4f) +
+                         0.004f * Noise2(u * 7, v * 5 + s.seed * 31);
       const float bent = s.lift * t * t * t * (0.35f + 0.65f * Noise2(u * 1.3f + s.seed * 20, 4));
       const float height = kDepth * Sin(phase) + dent + bent + 0.004f * t;
       const float slope = kDepth * 2 * kPi / kWave * Cos(phase);
@@ -37,7 +38,9 @@ void AddSheet(Mesh& mesh, const Sheet& s) {
                 Normalized(s.normal - s.across * slope), u + s.seed * 17, v + s.seed * 9});
     }
   }
-  const auto at = [&](int i, int j) { return first + static_cast<std::uint32_t>(j * (columns + 1) + i); };
+  const auto at = [&](int i, int j) {
+    return first + static_cast<std::uint32_t>(j * (columns + 1) + i);
+  };
   for (int j = 0; j < rows; ++j)
     for (int i = 0; i < columns; ++i)
       mesh.Quad(at(i, j), at(i + 1, j), at(i + 1, j + 1), at(i, j + 1), Material::kRoofTin, s.seed);
@@ -95,7 +98,8 @@ void AddRoof(Mesh& mesh) {
         s.length = bottom - top + random.Range(-0.02f, 0.035f);
         s.lift = random.Unit() < 0.25f ? random.Range(0.02f, 0.07f) : 0.006f;
         const float lap = (index % 2 == 0 ? 0.0f : 0.004f) + (course == 0 ? 0.010f : 0.0f);
-        s.corner = Vec3{-kBarnWidth / 2, RoofHeight(-kBarnWidth / 2) + 0.012f, z} + down * (top + random.Signed() * 0.012f) + normal * lap;
+        s.corner = Vec3{-kBarnWidth / 2, RoofHeight(-kBarnWidth / 2) + 0.012f, z} +
+                   down * (top + random.Signed() * 0.012f) + normal * lap;
         AddSheet(mesh, s);
         z -= s.width - kWave;
         ++index;

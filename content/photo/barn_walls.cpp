@@ -17,8 +17,8 @@ constexpr float kSill = 0.24f;  // where the boards begin, above the stones
 // Dark sheets a hand's breadth behind the boards: what shows through the gaps.
 void AddInside(Mesh& mesh) {
   const auto wall = [&](Vec3 a, Vec3 b, Vec3 c, Vec3 d) {
-    mesh.Quad(mesh.Add({a, {}, 0, 0}), mesh.Add({b, {}, 1, 0}), mesh.Add({c, {}, 1, 1}), mesh.Add({d, {}, 0, 1}),
-              Material::kDark, 0);
+    mesh.Quad(mesh.Add({a, {}, 0, 0}), mesh.Add({b, {}, 1, 0}), mesh.Add({c, {}, 1, 1}),
+              mesh.Add({d, {}, 0, 1}), Material::kDark, 0);
   };
   constexpr float in = 0.06f;
   const float left = -kBarnWidth + in;
@@ -26,11 +26,15 @@ void AddInside(Mesh& mesh) {
   const float low = -0.2f;
   const float high = kEaveHeight + 0.05f;
   const float door = kDoorCentre + kDoorWidth / 2;
-  wall({left, low, -in}, {kDoorCentre - kDoorWidth / 2, low, -in}, {kDoorCentre - kDoorWidth / 2, high, -in}, {left, high, -in});
+  wall({left, low, -in}, {kDoorCentre - kDoorWidth / 2, low, -in},
+       {kDoorCentre - kDoorWidth / 2, high, -in}, {left, high, -in});
   wall({door, low, -in}, {-in, low, -in}, {-in, high, -in}, {door, high, -in});
-  wall({kDoorCentre - kDoorWidth / 2, kDoorHeight, -in}, {door, kDoorHeight, -in}, {door, high, -in}, {kDoorCentre - kDoorWidth / 2, high, -in});
-  wall({left, high, -in}, {-in, high, -in}, {-kBarnWidth / 2, kRidgeHeight, -in}, {-kBarnWidth / 2, kRidgeHeight, -in});
-  wall({left, high, back}, {-in, high, back}, {-kBarnWidth / 2, kRidgeHeight, back}, {-kBarnWidth / 2, kRidgeHeight, back});
+  wall({kDoorCentre - kDoorWidth / 2, kDoorHeight, -in}, {door, kDoorHeight, -in},
+       {door, high, -in}, {kDoorCentre - kDoorWidth / 2, high, -in});
+  wall({left, high, -in}, {-in, high, -in}, {-kBarnWidth / 2, kRidgeHeight, -in},
+       {-kBarnWidth / 2, kRidgeHeight, -in});
+  wall({left, high, back}, {-in, high, back}, {-kBarnWidth / 2, kRidgeHeight, back},
+       {-kBarnWidth / 2, kRidgeHeight, back});
   wall({-in, low, -in}, {-in, low, back}, {-in, high, back}, {-in, high, -in});
   wall({left, low, -in}, {left, low, back}, {left, high, back}, {left, high, -in});
   wall({left, low, back}, {-in, low, back}, {-in, high, back}, {left, high, back});
@@ -74,11 +78,13 @@ void AddWalls(Mesh& mesh) {
     b.material = Material::kBoardRed;
     b.seed = random.Unit();
     const float middle = x + width / 2;
-    const bool overDoor = middle > kDoorCentre - kDoorWidth / 2 && middle < kDoorCentre + kDoorWidth / 2;
+    const bool overDoor =
+        middle > kDoorCentre - kDoorWidth / 2 && middle < kDoorCentre + kDoorWidth / 2;
     const float foot = overDoor ? kDoorHeight - 0.02f : kSill + random.Range(-0.035f, 0.02f);
     b.origin = {middle, foot, random.Range(-0.003f, 0.004f)};
     b.length = RoofHeight(middle) - foot - 0.015f;
-    b.topSlant = (middle < -kBarnWidth / 2 ? 1.0f : -1.0f) * (kRidgeHeight - kEaveHeight) / (kBarnWidth / 2);
+    b.topSlant =
+        (middle < -kBarnWidth / 2 ? 1.0f : -1.0f) * (kRidgeHeight - kEaveHeight) / (kBarnWidth / 2);
     b.vStart = foot - kSill;
     b.steps = 10;
     AddBoard(mesh, b);
@@ -116,12 +122,14 @@ void AddFooting(Mesh& mesh) {
       const float size = random.Range(0.22f, 0.46f);
       const float height = random.Range(0.13f, 0.19f);
       const Vec3 centre = from + along * (at + size / 2) + Vec3{0, random.Range(0.06f, 0.10f), 0};
-      AddStone(mesh, centre, {size * 0.47f, height, random.Range(0.12f, 0.18f)}, turn + random.Signed() * 0.12f, 22, random);
+      AddStone(mesh, centre, {size * 0.47f, height, random.Range(0.12f, 0.18f)},
+               turn + random.Signed() * 0.12f, 22, random);
       at += size * 0.93f;
     }
   };
   const float door = kDoorCentre + kDoorWidth / 2;
-  course({-kBarnWidth - 0.05f, 0, -0.06f}, {1, 0, 0}, kBarnWidth + kDoorCentre - kDoorWidth / 2 + 0.05f, 0);
+  course({-kBarnWidth - 0.05f, 0, -0.06f}, {1, 0, 0},
+         kBarnWidth + kDoorCentre - kDoorWidth / 2 + 0.05f, 0);
   course({door, 0, -0.06f}, {1, 0, 0}, -door + 0.05f, 0);
   course({-0.06f, 0, 0.05f}, {0, 0, -1}, kBarnLength, 1.5708f);
   course({-kBarnWidth + 0.06f, 0, 0.05f}, {0, 0, -1}, kBarnLength, 1.5708f);

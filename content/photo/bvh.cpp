@@ -8,7 +8,9 @@ namespace {
 
 constexpr int kBins = 16;
 
-float Axis(Vec3 v, int axis) { return axis == 0 ? v.x : (axis == 1 ? v.y : v.z); }
+float Axis(Vec3 v, int axis) {
+  return axis == 0 ? v.x : (axis == 1 ? v.y : v.z);
+}
 
 struct Range {
   std::uint32_t first = 0, last = 0;
@@ -81,10 +83,9 @@ class Builder {
     if (bestAxis < 0) return r.first + r.Size() / 2;
     const float lo = Axis(centres.lo, bestAxis);
     const float extent = Axis(centres.hi, bestAxis) - lo;
-    const auto middle =
-        std::stable_partition(begin + r.first, begin + r.last, [&](std::uint32_t i) {
-          return BinOf(i, bestAxis, lo, extent) <= bestBin;
-        });
+    const auto middle = std::stable_partition(
+        begin + r.first, begin + r.last,
+        [&](std::uint32_t i) { return BinOf(i, bestAxis, lo, extent) <= bestBin; });
     return static_cast<std::uint32_t>(middle - begin);
   }
 
@@ -138,6 +139,8 @@ class Builder {
 
 }  // namespace
 
-Bvh BuildBvh(const std::vector<Box>& boxes, int leafSize) { return Builder(boxes, leafSize).Build(); }
+Bvh BuildBvh(const std::vector<Box>& boxes, int leafSize) {
+  return Builder(boxes, leafSize).Build();
+}
 
 }  // namespace tarnwick::photo

@@ -20,8 +20,12 @@ inline Float4 Load(const float* p) {
   std::memcpy(&v, p, sizeof v);
   return v;
 }
-inline Float4 Lower(Float4 a, Float4 b) { return a < b ? a : b; }
-inline Float4 Higher(Float4 a, Float4 b) { return a > b ? a : b; }
+inline Float4 Lower(Float4 a, Float4 b) {
+  return a < b ? a : b;
+}
+inline Float4 Higher(Float4 a, Float4 b) {
+  return a > b ? a : b;
+}
 }  // namespace detail
 
 template <typename Leaf>

@@ -37,10 +37,12 @@ float Look(const std::array<float, kCurveSteps + 1>& table, float exposure) {
 // Silver clumps: white noise and a little of its neighbours', mean 0.
 float Grain(int x, int y, std::uint32_t layer) {
   const auto white = [&](int px, int py) {
-    const std::uint32_t h = HashWords(static_cast<std::uint32_t>(px) * 3 + layer, static_cast<std::uint32_t>(py));
+    const std::uint32_t h =
+        HashWords(static_cast<std::uint32_t>(px) * 3 + layer, static_cast<std::uint32_t>(py));
     return UnitFloat(h) + UnitFloat(HashWord(h)) - 1;
   };
-  return 0.6f * white(x, y) + 0.28f * (white(x - 1, y) + white(x + 1, y) + white(x, y - 1) + white(x, y + 1));
+  return 0.6f * white(x, y) +
+         0.28f * (white(x - 1, y) + white(x + 1, y) + white(x, y - 1) + white(x, y + 1));
 }
 
 }  // namespace
@@ -51,20 +53,23 @@ float FilmCurve(float x) {
   return Saturate(x * (2.51f * x + 0.09f) / (x * (2.43f * x + 0.83f) + 0.22f));
 }
 
-std::vector<std::uint8_t> Develop(const std::vector<Vec3>& light, int width, int height, ThreadPool& pool) {
+std::vector<std::uint8_t> Develop(const std::vector<Vec3>& light, int width, int height,
+                                  ThreadPool& pool) {
   const auto table = CurveTable();
   std::vector<std::uint8_t> bytes(light.size() * 3);
   const float half = static_cast<float>(width) * 0.5f;
   pool.ForRows(0, height, 8, [&](int first, int last) {
     for (int y = first; y < last; ++y) {
       for (int x = 0; x < width; ++x) {
-        const std::size_t i = static_cast<std::size_t>(y) * static_cast<std::size_t>(width) + static_cast<std::size_t>(x);
+        const std::size_t i = static_cast<std::size_t>(y) * static_cast<std::size_t>(width) +
+                              static_cast<std::size_t>(x);
         const float dx = (static_cast<float>(x) + 0.5f) / half - 1;
         const float dy = (static_cast<float>(y) + 0.5f - static_cast<float>(height) * 0.5f) / half;
         const float falloff = 1 / (1 + 0.20f * (dx * dx + dy * dy));
         const Vec3 exposed = light[i] * (kExposure * falloff * falloff);
         const float grain = Grain(x, y, 0);
-        const float value[3] = {Look(table, exposed.x), Look(table, exposed.y), Look(table, exposed.z)};
+        const float value[3] = {Look(table, exposed.x), Look(table, exposed.y),
+                                Look(table, exposed.z)};
         for (std::size_t c = 0; c < 3; ++c) {
           // Grain is strongest in the middle tones and never quite the same in
           // the three layers.

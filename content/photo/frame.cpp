@@ -16,7 +16,8 @@ Vec3 SmoothedAmbient(const Frame& frame, int x, int y) {
     for (int dx = -kReach; dx <= kReach; ++dx) {
       const int px = x + dx;
       const int py = y + dy;
-      if ((dx == 0 && dy == 0) || px < 0 || py < 0 || px >= frame.width || py >= frame.height) continue;
+      if ((dx == 0 && dy == 0) || px < 0 || py < 0 || px >= frame.width || py >= frame.height)
+        continue;
       const FramePixel& other = frame.At(px, py);
       const float along = Dot(other.normal, normal);
       if (along < 0.8f || other.spread > 0.02f) continue;
@@ -39,7 +40,8 @@ std::vector<Vec3> SmoothedLight(const Frame& frame, ThreadPool& pool) {
     for (int y = first; y < last; ++y) {
       for (int x = 0; x < frame.width; ++x) {
         const FramePixel& pixel = frame.At(x, y);
-        light[static_cast<std::size_t>(y) * static_cast<std::size_t>(frame.width) + static_cast<std::size_t>(x)] =
+        light[static_cast<std::size_t>(y) * static_cast<std::size_t>(frame.width) +
+              static_cast<std::size_t>(x)] =
             pixel.direct + pixel.tint * SmoothedAmbient(frame, x, y);
       }
     }

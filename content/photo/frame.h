@@ -8,10 +8,10 @@ namespace tarnwick::photo {
 
 // The exposure before it is developed: the means of each pixel's samples.
 struct FramePixel {
-  Vec3 direct;    // light that is final
-  Vec3 tint;      // colour that the light from around meets
-  Vec3 ambient;   // that light, noisy
-  Vec3 normal;    // mean of unit vectors: short where edges cross the pixel
+  Vec3 direct;         // light that is final
+  Vec3 tint;           // colour that the light from around meets
+  Vec3 ambient;        // that light, noisy
+  Vec3 normal;         // mean of unit vectors: short where edges cross the pixel
   float distance = 0;  // mean, metres
   float spread = 0;    // of the distances within the pixel, relative
 };
@@ -20,12 +20,15 @@ struct Frame {
   int width = 0, height = 0;
   std::vector<FramePixel> pixels;
 
-  Frame(int w, int h) : width(w), height(h), pixels(static_cast<std::size_t>(w) * static_cast<std::size_t>(h)) {}
+  Frame(int w, int h)
+      : width(w), height(h), pixels(static_cast<std::size_t>(w) * static_cast<std::size_t>(h)) {}
   [[nodiscard]] FramePixel& At(int x, int y) {
-    return pixels[static_cast<std::size_t>(y) * static_cast<std::size_t>(width) + static_cast<std::size_t>(x)];
+    return pixels[static_cast<std::size_t>(y) * static_cast<std::size_t>(width) +
+                  static_cast<std::size_t>(x)];
   }
   [[nodiscard]] const FramePixel& At(int x, int y) const {
-    return pixels[static_cast<std::size_t>(y) * static_cast<std::size_t>(width) + static_cast<std::size_t>(x)];
+    return pixels[static_cast<std::size_t>(y) * static_cast<std::size_t>(width) +
+                  static_cast<std::size_t>(x)];
   }
 };
 

@@ -36,7 +36,8 @@ void Emboss(const Scene::Point& point, float footprint, Surface& surface, Height
   const float here = height(point.u, point.v);
   const float slopeU = (height(point.u + step / perU, point.v) - here) / step;
   const float slopeV = (height(point.u, point.v + step / perV) - here) / step;
-  surface.normal = Normalized(surface.normal - point.alongU * (slopeU / perU) - point.alongV * (slopeV / perV));
+  surface.normal =
+      Normalized(surface.normal - point.alongU * (slopeU / perU) - point.alongV * (slopeV / perV));
 }
 
 }  // namespace tarnwick::photo

@@ -8,26 +8,26 @@ namespace tarnwick::photo {
 
 // What a triangle is made of; see materials.h.
 enum class Material : std::uint8_t {
-  kBoardRed,     // wall boards with what is left of their paint; u across, v along, metres
-  kBoardGreen,   // the doors
-  kBoardWhite,   // trim and window frames
-  kBareWood,     // fence, beams
-  kRoofTin,      // corrugated sheets; u across the waves, v down the slope, metres
-  kDrumPaint,    // u around 0..1, v height in metres
-  kZinc,         // milk cans, bucket
-  kIron,         // hinges, wheel tyre, wire
-  kStone,        // field stones
-  kGround,       // soil, gravel, far meadows; by position
-  kBark,         // u around, v along, metres
-  kLogEnd,       // u, v from the centre, metres
-  kLeaf,         // tree leaves; v 0..1 from stalk to tip
-  kIvy,          // the same, glossier
-  kGrass,        // v 0..1 from root to tip
+  kBoardRed,    // wall boards with what is left of their paint; u across, v along, metres
+  kBoardGreen,  // the doors
+  kBoardWhite,  // trim and window frames
+  kBareWood,    // fence, beams
+  kRoofTin,     // corrugated sheets; u across the waves, v down the slope, metres
+  kDrumPaint,   // u around 0..1, v height in metres
+  kZinc,        // milk cans, bucket
+  kIron,        // hinges, wheel tyre, wire
+  kStone,       // field stones
+  kGround,      // soil, gravel, far meadows; by position
+  kBark,        // u around, v along, metres
+  kLogEnd,      // u, v from the centre, metres
+  kLeaf,        // tree leaves; v 0..1 from stalk to tip
+  kIvy,         // the same, glossier
+  kGrass,       // v 0..1 from root to tip
   kDryGrass,
-  kPetal,        // meadow flowers
-  kGlass,        // window panes
-  kEnamel,       // the sign; u, v in metres from its centre
-  kDark,         // what is behind the gaps
+  kPetal,   // meadow flowers
+  kGlass,   // window panes
+  kEnamel,  // the sign; u, v in metres from its centre
+  kDark,    // what is behind the gaps
 };
 
 struct Vertex {

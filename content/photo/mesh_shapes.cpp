@@ -26,11 +26,18 @@ void AddBoard(Mesh& mesh, const Board& b) {
   const float h = b.width / 2;
   const float t = b.thickness / 2;
   const float e = Min(0.004f, t / 2);
-  const std::array<std::array<float, 2>, 8> section{
-      {{-h, -t}, {-h, t - e}, {-h + e, t}, {h - e, t}, {h, t - e}, {h, -t}, {h - e, -t - e}, {-h + e, -t - e}}};
+  const std::array<std::array<float, 2>, 8> section{{{-h, -t},
+                                                     {-h, t - e},
+                                                     {-h + e, t},
+                                                     {h - e, t},
+                                                     {h, t - e},
+                                                     {h, -t},
+                                                     {h - e, -t - e},
+                                                     {-h + e, -t - e}}};
   const auto centre = [&](float v, std::size_t i) {
     const float wave = b.warp * Noise2(v * 0.9f + b.seed * 61, b.seed * 97 + 3);
-    const float edge = 0.4f * b.warp * Noise2(v * 3.1f, b.seed * 173 + (section[i][0] < 0 ? 0.0f : 9.5f));
+    const float edge =
+        0.4f * b.warp * Noise2(v * 3.1f, b.seed * 173 + (section[i][0] < 0 ? 0.0f : 9.5f));
     const float cup = b.warp * 0.8f * (b.seed - 0.4f) * (section[i][0] / h) * (section[i][0] / h);
     const float slant = b.topSlant * section[i][0] * (v / b.length);
     return b.origin + b.along * (v + slant) + b.across * (section[i][0] + edge) +
@@ -68,7 +75,8 @@ void AddTube(Mesh& mesh, std::span<const TubePoint> path, int sides, Material ma
   std::vector<std::uint32_t> before;
   float v = 0;
   for (std::size_t i = 0; i < path.size(); ++i) {
-    const Vec3 along = Normalized(path[std::min(i + 1, path.size() - 1)].centre - path[i == 0 ? 0 : i - 1].centre);
+    const Vec3 along =
+        Normalized(path[std::min(i + 1, path.size() - 1)].centre - path[i == 0 ? 0 : i - 1].centre);
     if (i == 0) {
       Basis(along, side, up);
     } else {
@@ -81,8 +89,8 @@ void AddTube(Mesh& mesh, std::span<const TubePoint> path, int sides, Material ma
     for (int k = 0; k <= sides; ++k) {
       const float turn = static_cast<float>(k) / static_cast<float>(sides);
       const Vec3 n = side * Cos(2 * kPi * turn) + up * Sin(2 * kPi * turn);
-      ring.push_back(mesh.Add({path[i].centre + n * path[i].radius, n,
-                               turn * 2 * kPi * path[0].radius, v}));
+      ring.push_back(
+          mesh.Add({path[i].centre + n * path[i].radius, n, turn * 2 * kPi * path[0].radius, v}));
     }
     for (std::size_t k = 0; i > 0 && k + 1 < ring.size(); ++k)
       mesh.Quad(before[k], before[k + 1], ring[k + 1], ring[k], material, seed);
@@ -102,14 +110,16 @@ void AddLathe(Mesh& mesh, std::span<const ProfilePoint> profile, int sides, Mate
     Vec3 low = own;
     Vec3 high = own;
     if (i > 0 && Dot(own, normal(i - 1)) > 0.65f) low = Normalized(own + normal(i - 1));
-    if (i + 2 < profile.size() && Dot(own, normal(i + 1)) > 0.65f) high = Normalized(own + normal(i + 1));
+    if (i + 2 < profile.size() && Dot(own, normal(i + 1)) > 0.65f)
+      high = Normalized(own + normal(i + 1));
     std::uint32_t before[2] = {};
     for (int k = 0; k <= sides; ++k) {
       const float turn = static_cast<float>(k) / static_cast<float>(sides);
       const float c = Cos(2 * kPi * turn);
       const float s = Sin(2 * kPi * turn);
       const auto point = [&](const ProfilePoint& p, Vec3 n) {
-        return mesh.Add({{p.radius * c, p.height, p.radius * s}, {n.x * c, n.y, n.x * s}, turn, p.height});
+        return mesh.Add(
+            {{p.radius * c, p.height, p.radius * s}, {n.x * c, n.y, n.x * s}, turn, p.height});
       };
       const std::uint32_t now[2] = {point(profile[i], low), point(profile[i + 1], high)};
       if (k > 0) mesh.Quad(before[0], now[0], now[1], before[1], material, seed);
@@ -136,18 +146,25 @@ void AddStone(Mesh& mesh, Vec3 centre, Vec3 half, float turn, int detail, Random
       const float m = Max(Max(d.x < 0 ? -d.x : d.x, d.y < 0 ? -d.y : d.y), d.z < 0 ? -d.z : d.z);
       const float r = Mix(1, 1 / m, 0.45f) * (1 + 0.22f * Fbm3(d * 1.4f + shift, 3));
       d = d * half * r;
-      mesh.Add({centre + Vec3{d.x * c + d.z * s, d.y, d.z * c - d.x * s}, {}, d.x + seed * 40, d.y + d.z * 0.7f});
+      mesh.Add({centre + Vec3{d.x * c + d.z * s, d.y, d.z * c - d.x * s},
+                {},
+                d.x + seed * 40,
+                d.y + d.z * 0.7f});
     }
   }
-  const auto at = [&](int i, int j) { return first + static_cast<std::uint32_t>(j * (columns + 1) + i); };
+  const auto at = [&](int i, int j) {
+    return first + static_cast<std::uint32_t>(j * (columns + 1) + i);
+  };
   for (int j = 0; j < rows; ++j)
     for (int i = 0; i < columns; ++i)
       mesh.Quad(at(i, j), at(i + 1, j), at(i + 1, j + 1), at(i, j + 1), Material::kStone, seed);
   // Smooth normals: the sum of the faces around a vertex; the seam shares both.
-  for (std::size_t k = mesh.triangles.size() - static_cast<std::size_t>(rows * columns) * 2; k < mesh.triangles.size(); ++k) {
+  for (std::size_t k = mesh.triangles.size() - static_cast<std::size_t>(rows * columns) * 2;
+       k < mesh.triangles.size(); ++k) {
     auto& t = mesh.triangles[k];
     const Vec3 a = mesh.vertices[t.corner[0]].position;
-    Vec3 n = Cross(mesh.vertices[t.corner[1]].position - a, mesh.vertices[t.corner[2]].position - a);
+    Vec3 n =
+        Cross(mesh.vertices[t.corner[1]].position - a, mesh.vertices[t.corner[2]].position - a);
     if (Dot(n, a - centre) < 0) n = -n;
     for (const auto corner : t.corner) mesh.vertices[corner].normal += n;
   }

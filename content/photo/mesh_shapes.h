@@ -12,12 +12,12 @@ namespace tarnwick::photo {
 struct Board {
   Vec3 origin, across, along, outward;
   float width = 0.18f, length = 2, thickness = 0.022f;
-  float warp = 0.004f;    // how far it bends outward and wavers at its edges
-  float vStart = 0;       // v at the lower end
+  float warp = 0.004f;  // how far it bends outward and wavers at its edges
+  float vStart = 0;     // v at the lower end
   Material material = Material::kBareWood;
   float seed = 0;
-  int steps = 8;          // pieces along the length
-  float topSlant = 0;     // the upper end is sawn off at this tangent
+  int steps = 8;       // pieces along the length
+  float topSlant = 0;  // the upper end is sawn off at this tangent
 };
 void AddBoard(Mesh& mesh, const Board& board);
 

@@ -32,7 +32,9 @@ void DescribeTin(const Scene::Point& p, float footprint, Surface& s) {
   s.specular = Mix(Vec3{0.24f, 0.245f, 0.25f}, Vec3{0.03f, 0.025f, 0.02f}, rust);
   s.roughness = Mix(0.42f + 0.1f * tone, 0.9f, rust);
   if (footprint > 0.02f) return;
-  Emboss(p, footprint, s, [&](float u, float v) { return 0.0012f * Fbm2(u * 42, v * 34 + shift, 2) * (0.3f + rust); });
+  Emboss(p, footprint, s, [&](float u, float v) {
+    return 0.0012f * Fbm2(u * 42, v * 34 + shift, 2) * (0.3f + rust);
+  });
 }
 
 void DescribeDrum(const Scene::Point& p, float footprint, Surface& s) {
@@ -40,21 +42,26 @@ void DescribeDrum(const Scene::Point& p, float footprint, Surface& s) {
   const float shift = p.seed * 77 + p.instanceSeed * 191;
   const auto hold = [&](float a, float b) {
     const float low = 0.5f * Smooth(0.25f, 0.0f, b) + 0.35f * Smooth(0.78f, 0.88f, b);
-    return 0.30f - low + 0.85f * Fbm2(a * 2.4f + shift, b * 2.2f, 5) + 0.22f * Fbm2(a * 30, b * 26 + shift, 2);
+    return 0.30f - low + 0.85f * Fbm2(a * 2.4f + shift, b * 2.2f, 5) +
+           0.22f * Fbm2(a * 30, b * 26 + shift, 2);
   };
   const float h = hold(u, p.v);
   const float painted = Smooth(0, 0.03f, h);
   const float fine = Fbm2(u * 30 + shift, p.v * 30, 4);
   const float run = Fbm2(u * 12 + shift, p.v * 0.8f, 4);
-  const Vec3 coat = p.instanceSeed < 0.5f ? Vec3{0.045f, 0.105f, 0.185f} : Vec3{0.42f, 0.24f, 0.04f};
-  Vec3 paint = Mix(coat, coat * 1.25f + Vec3{0.085f, 0.09f, 0.095f}, Saturate(0.45f + 0.8f * Fbm2(u * 1.5f, p.v * 1.9f + shift, 4)));
-  paint = Mix(paint, Vec3{0.26f, 0.125f, 0.055f}, 0.65f * Smooth(0.05f, 0.6f, run + 0.25f * Smooth(0.25f, 0.0f, h)));
+  const Vec3 coat =
+      p.instanceSeed < 0.5f ? Vec3{0.045f, 0.105f, 0.185f} : Vec3{0.42f, 0.24f, 0.04f};
+  Vec3 paint = Mix(coat, coat * 1.25f + Vec3{0.085f, 0.09f, 0.095f},
+                   Saturate(0.45f + 0.8f * Fbm2(u * 1.5f, p.v * 1.9f + shift, 4)));
+  paint = Mix(paint, Vec3{0.26f, 0.125f, 0.055f},
+              0.65f * Smooth(0.05f, 0.6f, run + 0.25f * Smooth(0.25f, 0.0f, h)));
   s.albedo = Mix(RustColour(Saturate(0.5f - h * 0.9f + 0.4f * fine), fine), paint, painted);
   s.specular = Vec3{1, 1, 1} * Mix(0.025f, 0.045f, painted);
   s.roughness = Mix(0.9f, 0.30f + 0.18f * fine, painted);
   Emboss(p, footprint, s, [&](float a, float b) {
     const float c = hold(a * 1.9f, b);
-    return 0.0008f * Smooth(0, 0.05f, c) + 0.0012f * Fbm2(a * 1.9f * 40, b * 40, 2) * Smooth(0.05f, -0.05f, c) +
+    return 0.0008f * Smooth(0, 0.05f, c) +
+           0.0012f * Fbm2(a * 1.9f * 40, b * 40, 2) * Smooth(0.05f, -0.05f, c) +
            0.004f * Fbm2(a * 9 + shift, b * 4, 2);
   });
 }
@@ -66,15 +73,18 @@ void DescribeZinc(const Scene::Point& p, float footprint, Surface& s) {
   const float fine = Fbm2(u * 40, p.v * 40 + shift, 3);
   const float rust = Smooth(0.28f, 0.5f, broad + 0.4f * fine + 0.5f * Smooth(0.12f, 0.0f, p.v));
   s.albedo = Mix(Vec3{0.19f, 0.19f, 0.185f} * (1 + 0.4f * broad), RustColour(0.4f, fine), rust);
-  s.specular = Mix(Vec3{0.40f, 0.395f, 0.38f} * (1 + 0.25f * fine), Vec3{0.03f, 0.03f, 0.03f}, rust);
+  s.specular =
+      Mix(Vec3{0.40f, 0.395f, 0.38f} * (1 + 0.25f * fine), Vec3{0.03f, 0.03f, 0.03f}, rust);
   s.roughness = Mix(0.34f + 0.12f * broad, 0.9f, rust);
-  Emboss(p, footprint, s, [&](float a, float b) { return 0.0022f * Fbm2(a * 9 + shift, b * 8, 3); });
+  Emboss(p, footprint, s,
+         [&](float a, float b) { return 0.0022f * Fbm2(a * 9 + shift, b * 8, 3); });
 }
 
 void DescribeIron(const Scene::Point& p, float footprint, Surface& s) {
   const float fine = Fbm3(p.position * 45, 3);
   const float broad = Fbm3(p.position * 9, 3);
-  s.albedo = Mix(Vec3{0.045f, 0.038f, 0.034f}, Vec3{0.155f, 0.072f, 0.036f}, Smooth(-0.3f, 0.4f, broad + 0.5f * fine));
+  s.albedo = Mix(Vec3{0.045f, 0.038f, 0.034f}, Vec3{0.155f, 0.072f, 0.036f},
+                 Smooth(-0.3f, 0.4f, broad + 0.5f * fine));
   s.specular = {0.05f, 0.045f, 0.04f};
   s.roughness = 0.55f + 0.2f * fine;
   Emboss(p, footprint, s, [&](float u, float v) { return 0.0008f * Fbm2(u * 90, v * 90, 2); });
@@ -84,10 +94,18 @@ void DescribeIron(const Scene::Point& p, float footprint, Surface& s) {
 
 void DescribeMetal(const Scene::Point& point, float footprint, Surface& surface) {
   switch (point.material) {
-    case Material::kRoofTin: DescribeTin(point, footprint, surface); break;
-    case Material::kDrumPaint: DescribeDrum(point, footprint, surface); break;
-    case Material::kZinc: DescribeZinc(point, footprint, surface); break;
-    default: DescribeIron(point, footprint, surface); break;
+    case Material::kRoofTin:
+      DescribeTin(point, footprint, surface);
+      break;
+    case Material::kDrumPaint:
+      DescribeDrum(point, footprint, surface);
+      break;
+    case Material::kZinc:
+      DescribeZinc(point, footprint, surface);
+      break;
+    default:
+      DescribeIron(point, footprint, surface);
+      break;
   }
 }
 

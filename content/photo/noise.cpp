@@ -34,7 +34,9 @@ constexpr float Gradient2(std::uint32_t h, float x, float y) {
   return ((h & 1u) != 0 ? -u : u) + ((h & 2u) != 0 ? -0.5f * v : 0.5f * v);
 }
 
-constexpr float Fade(float t) { return t * t * t * (t * (t * 6 - 15) + 10); }
+constexpr float Fade(float t) {
+  return t * t * t * (t * (t * 6 - 15) + 10);
+}
 
 }  // namespace
 

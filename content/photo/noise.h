@@ -45,8 +45,8 @@ class Random {
 
 // The random points of a jittered unit grid, seen from (x, y).
 struct Cell {
-  float nearest = 0;   // distance to the nearest point
-  float second = 0;    // and to the next
+  float nearest = 0;     // distance to the nearest point
+  float second = 0;      // and to the next
   std::uint32_t id = 0;  // hash of the nearest
 };
 [[nodiscard]] Cell Cells2(float x, float y);

@@ -42,7 +42,8 @@ bool Parse(int count, char** words, PhotoOptions& options, std::string& output) 
 }
 
 // Written beside the target and renamed, so that a broken run leaves no half picture.
-bool WritePpm(const std::string& path, const PhotoOptions& options, const std::vector<std::uint8_t>& bytes) {
+bool WritePpm(const std::string& path, const PhotoOptions& options,
+              const std::vector<std::uint8_t>& bytes) {
   const std::string part = path + ".part";
   std::FILE* file = std::fopen(part.c_str(), "wb");
   if (file == nullptr) return false;

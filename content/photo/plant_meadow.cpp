@@ -23,10 +23,13 @@ class Meadow {
   void Plant() {
     std::array<int, 3> lawn;
     std::array<int, 3> tall;
+    std::array<int, 2> thin;  // for the middle distance: fewer and wider blades
     for (std::uint32_t i = 0; i < 3; ++i) {
       lawn[i] = scene_.AddMesh(MakeTuft({40 + i, Count(190), 0.30f, 0.15f, 0.0042f, 0.16f, 3}));
       tall[i] = scene_.AddMesh(MakeTuft({50 + i, Count(130), 0.17f, 0.42f, 0.0050f, 0.24f, 4}));
     }
+    for (std::uint32_t i = 0; i < 2; ++i)
+      thin[i] = scene_.AddMesh(MakeTuft({56 + i, Count(105), 0.34f, 0.17f, 0.0085f, 0.16f, 2}));
     const int ears = scene_.AddMesh(MakeSeedHeads(61, 9, 0.55f));
     const int weed = scene_.AddMesh(MakeWeed(62, 0.42f));
     const int rosette = scene_.AddMesh(MakeWeed(63, 0.12f));
@@ -38,12 +41,14 @@ class Meadow {
     Scatter(0.21f, 0, 26, [&](float x, float z, float away) {
       const float wear = TrackWear(x, z);
       if (random.Unit() < wear * 1.25f - 0.05f) return;
-      if (away > 12 && random.Unit() < 0.35f) return;
+      if (away > 10 && random.Unit() < 0.35f) return;
       const float rank = Fbm2(x * 0.55f, z * 0.55f, 3);
       const float wall = Smooth(0.75f, 0.15f, -InsideBarn(x, z)) * (1 - wear);
       const float size = (0.78f + 0.75f * rank) * (1 - 0.6f * wear) + 0.35f * wall;
       if (rank + wall * 0.75f > 0.30f + 0.35f * random.Unit()) {
         Put(tall[random.Word() % 3], x, z, Clamp(size, 0.5f, 1.15f), random);
+      } else if (away > 10) {
+        Put(thin[random.Word() % 2], x, z, Clamp(size, 0.4f, 1.3f), random);
       } else {
         Put(lawn[random.Word() % 3], x, z, Clamp(size, 0.35f, 1.3f), random);
       }
@@ -54,12 +59,28 @@ class Meadow {
       const float lot = random.Unit();
       const float patch = Noise2(x * 0.4f + 7, z * 0.4f);
       if (wear > 0.5f) return;
-      if (lot < 0.16f + 0.3f * wall) Put(weed, x, z, random.Range(0.5f, 1.0f) * (0.75f + 0.5f * wall), random);
-      else if (lot < 0.38f) Put(ears, x, z, random.Range(0.7f, 1.1f), random);
-      else if (lot < 0.55f) Put(rosette, x, z, random.Range(0.6f, 1.1f), random);
-      else if (lot < 0.62f + 0.3f * patch) Put(daisy, x, z, random.Range(0.8f, 1.1f), random);
-      else if (lot > 0.95f + 0.25f * patch) Put(yellow, x, z, random.Range(0.8f, 1.1f), random);
+      if (lot < 0.16f + 0.3f * wall)
+        Put(weed, x, z, random.Range(0.5f, 1.0f) * (0.75f + 0.5f * wall), random);
+      else if (lot < 0.38f)
+        Put(ears, x, z, random.Range(0.7f, 1.1f), random);
+      else if (lot < 0.55f)
+        Put(rosette, x, z, random.Range(0.6f, 1.1f), random);
+      else if (lot < 0.62f + 0.3f * patch)
+        Put(daisy, x, z, random.Range(0.8f, 1.1f), random);
+      else if (lot > 0.95f + 0.25f * patch)
+        Put(yellow, x, z, random.Range(0.8f, 1.1f), random);
     });
+    // Rank growth close to the camera, out of focus in the lower corners.
+    for (int i = 0; i < static_cast<int>(150 * detail_); ++i) {
+      const float px = random.Unit() < 0.42f ? random.Range(-40, 210) : random.Range(700, 1040);
+      const Vec3 d = view_.Direction(px, 760);
+      const float away = random.Range(2.3f, 3.5f) / std::sqrt(d.x * d.x + d.z * d.z);
+      const Vec3 at = view_.Position() + d * away;
+      if (TrackWear(at.x, at.z) > 0.3f) continue;
+      const float lot = random.Unit();
+      Put(lot < 0.72f ? tall[random.Word() % 3] : (lot < 0.93f ? ears : daisy), at.x, at.z,
+          random.Range(0.75f, 1.25f), random);
+    }
     Scatter(0.85f, 22, 75, [&](float x, float z, float away) {
       Put(coarse, x, z, random.Range(0.6f, 1.05f) * (away < 28 ? 0.6f : 1.0f), random);
     });
@@ -72,7 +93,12 @@ class Meadow {
 
   void Put(int mesh, float x, float z, float scale, Random& random) {
     const float dry = Saturate(0.5f + 0.9f * Fbm2(x * 0.23f + 3, z * 0.23f, 3));
-    scene_.AddInstance(mesh, {{x, TerrainHeight(x, z) - 0.01f, z}, random.Unit() * 6.2832f, scale, random.Signed() * 0.08f}, dry);
+    scene_.AddInstance(mesh,
+                       {{x, TerrainHeight(x, z) - 0.01f, z},
+                        random.Unit() * 6.2832f,
+                        scale,
+                        random.Signed() * 0.08f},
+                       dry);
   }
 
   // Calls plant(x, z, distance) on a jittered grid, where the camera looks.
@@ -92,7 +118,9 @@ class Meadow {
         float px = 0;
         float py = 0;
         const float margin = 700 / (away + 0.5f) + 20;
-        if (!view_.Project(to, px, py) || px < -margin || px > 1000 + margin || py > 667 + 3 * margin) continue;
+        if (!view_.Project(to, px, py) || px < -margin || px > 1000 + margin ||
+            py > 667 + 3 * margin)
+          continue;
         plant(x, z, away);
       }
     }
@@ -105,6 +133,8 @@ class Meadow {
 
 }  // namespace
 
-void PlantMeadow(Scene& scene, float detail) { Meadow(scene, detail).Plant(); }
+void PlantMeadow(Scene& scene, float detail) {
+  Meadow(scene, detail).Plant();
+}
 
 }  // namespace tarnwick::photo

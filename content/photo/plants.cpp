@@ -4,22 +4,25 @@
 namespace tarnwick::photo {
 
 void DescribePlant(const Scene::Point& p, float footprint, Surface& s) {
-  const float a = p.seed;                // this leaf
-  const float b = p.instanceSeed;        // this plant
+  const float a = p.seed;          // this leaf
+  const float b = p.instanceSeed;  // this plant
   Vec3 colour;
-  float pass = 0.55f;                    // light let through, against what is thrown back
+  float pass = 0.75f;  // light let through, against what is thrown back
   switch (p.material) {
     case Material::kGrass:
-      colour = Mix(Vec3{0.075f, 0.125f, 0.026f}, Vec3{0.165f, 0.200f, 0.050f}, a);
-      colour = Mix(colour, Vec3{0.27f, 0.22f, 0.095f}, Saturate(0.55f * b + 0.5f * (p.v - 0.45f)) * (0.35f + 0.65f * a * a));
+      colour = Mix(Vec3{0.064f, 0.128f, 0.024f}, Vec3{0.150f, 0.210f, 0.046f}, a);
+      colour = Mix(colour, Vec3{0.27f, 0.22f, 0.095f},
+                   Saturate(1.1f * b - 0.25f + 0.5f * (p.v - 0.45f)) * (0.30f + 0.70f * a * a));
       colour = colour * Mix(0.45f, 1.0f, Smooth(0.0f, 0.5f, p.v));
       pass = 0.7f;
       break;
     case Material::kDryGrass:
-      colour = Mix(Vec3{0.30f, 0.235f, 0.115f}, Vec3{0.42f, 0.345f, 0.20f}, a) * Mix(0.6f, 1.0f, p.v);
+      colour =
+          Mix(Vec3{0.30f, 0.235f, 0.115f}, Vec3{0.42f, 0.345f, 0.20f}, a) * Mix(0.6f, 1.0f, p.v);
       break;
     case Material::kPetal:
-      colour = a < 0.6f ? Vec3{0.74f, 0.73f, 0.68f} : (a < 0.85f ? Vec3{0.72f, 0.50f, 0.05f} : Vec3{0.36f, 0.24f, 0.50f});
+      colour = a < 0.6f ? Vec3{0.74f, 0.73f, 0.68f}
+                        : (a < 0.85f ? Vec3{0.72f, 0.50f, 0.05f} : Vec3{0.36f, 0.24f, 0.50f});
       break;
     case Material::kIvy:
       colour = Mix(Vec3{0.036f, 0.075f, 0.020f}, Vec3{0.085f, 0.135f, 0.035f}, a);
@@ -27,8 +30,8 @@ void DescribePlant(const Scene::Point& p, float footprint, Surface& s) {
       pass = 0.3f;
       break;
     default:
-      colour = Mix(Vec3{0.052f, 0.094f, 0.018f}, Vec3{0.115f, 0.155f, 0.034f}, a);
-      colour = Mix(colour, Vec3{0.155f, 0.150f, 0.036f}, 0.65f * b);
+      colour = Mix(Vec3{0.056f, 0.112f, 0.020f}, Vec3{0.125f, 0.185f, 0.038f}, a);
+      colour = Mix(colour, Vec3{0.165f, 0.165f, 0.038f}, 0.6f * b);
       if (a > 0.965f) colour = {0.25f, 0.17f, 0.04f};
       break;
   }

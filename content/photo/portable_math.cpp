@@ -12,10 +12,9 @@ double SinTurn(double t) {
   const double x = t * 6.283185307179586;
   const double s = x * x;
   return x * (1 + s * (-1.0 / 6 +
-                       s * (1.0 / 120 +
-                            s * (-1.0 / 5040 +
-                                 s * (1.0 / 362880 +
-                                      s * (-1.0 / 39916800 + s * (1.0 / 6227020800.0)))))));
+                       s * (1.0 / 120 + s * (-1.0 / 5040 + s * (1.0 / 362880 +
+                                                                s * (-1.0 / 39916800 +
+                                                                     s * (1.0 / 6227020800.0)))))));
 }
 
 }  // namespace
@@ -28,7 +27,9 @@ float Sin(float radians) {
   return static_cast<float>(SinTurn(t));
 }
 
-float Cos(float radians) { return Sin(radians + 1.57079633f); }
+float Cos(float radians) {
+  return Sin(radians + 1.57079633f);
+}
 
 float Exp2(float x) {
   if (x < -126) return 0;
@@ -36,9 +37,9 @@ float Exp2(float x) {
   const float whole = std::floor(x);
   const double f = (static_cast<double>(x) - static_cast<double>(whole)) * 0.6931471805599453;
   const double series =
-      1 + f * (1 + f * (1.0 / 2 +
-                        f * (1.0 / 6 +
-                             f * (1.0 / 24 + f * (1.0 / 120 + f * (1.0 / 720 + f / 5040))))));
+      1 +
+      f * (1 + f * (1.0 / 2 +
+                    f * (1.0 / 6 + f * (1.0 / 24 + f * (1.0 / 120 + f * (1.0 / 720 + f / 5040))))));
   const auto exponent = static_cast<std::uint32_t>(static_cast<int>(whole) + 127);
   return static_cast<float>(series) * std::bit_cast<float>(exponent << 23);
 }

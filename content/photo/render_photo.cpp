@@ -20,7 +20,8 @@ float Soft(float a) {
 
 // Takes samples until the pixel has settled, `most` at the most and half of that
 // at the least: leaves need all of them, the sky few.
-FramePixel Expose(const Scene& scene, const Sky& sky, const Camera& camera, int x, int y, int most) {
+FramePixel Expose(const Scene& scene, const Sky& sky, const Camera& camera, int x, int y,
+                  int most) {
   constexpr float kSettled = 0.013f;  // error of the mean, in square roots of exposure
   FramePixel pixel;
   Vec3 ambient;
@@ -38,8 +39,8 @@ FramePixel Expose(const Scene& scene, const Sky& sky, const Camera& camera, int 
     float a = 0;
     float b = 0;
     choices.Pair(99, a, b);
-    const Sample s = TraceSample(scene, sky, camera, static_cast<float>(x) + Soft(a), static_cast<float>(y) + Soft(b), choices,
-                                 i % 2 == 0);
+    const Sample s = TraceSample(scene, sky, camera, static_cast<float>(x) + Soft(a),
+                                 static_cast<float>(y) + Soft(b), choices, i % 2 == 0);
     n += 1;
     pixel.direct += s.direct;
     pixel.tint += s.tint;
@@ -67,7 +68,8 @@ FramePixel Expose(const Scene& scene, const Sky& sky, const Camera& camera, int 
   const float variance = Max(squares * k - pixel.distance * pixel.distance, 0);
   pixel.spread = std::sqrt(variance) / (pixel.distance + 1e-3f);
   const auto over = [](float v, float by) { return by > 1e-5f ? v / by : 0.0f; };
-  pixel.ambient = {over(ambient.x, aroundTint.x), over(ambient.y, aroundTint.y), over(ambient.z, aroundTint.z)};
+  pixel.ambient = {over(ambient.x, aroundTint.x), over(ambient.y, aroundTint.y),
+                   over(ambient.z, aroundTint.z)};
   return pixel;
 }
 
@@ -87,7 +89,8 @@ std::vector<std::uint8_t> RenderPhoto(const PhotoOptions& options) {
   pool.ForRows(0, options.height, 1, [&](int first, int last) {
     for (int i = first; i < last; ++i) {
       const int y = static_cast<int>(static_cast<long long>(i) * stride % options.height);
-      for (int x = 0; x < options.width; ++x) frame.At(x, y) = Expose(scene, sky, camera, x, y, options.samples);
+      for (int x = 0; x < options.width; ++x)
+        frame.At(x, y) = Expose(scene, sky, camera, x, y, options.samples);
     }
   });
   return Develop(SmoothedLight(frame, pool), options.width, options.height, pool);

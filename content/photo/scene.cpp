@@ -24,10 +24,10 @@ Affine Inverse(const Affine& a, float scale) {
   // The linear part is a rotation times `scale`: its inverse is its transpose
   // over the square of that.
   const float k = 1 / (scale * scale);
-  Affine inverse{{Vec3{a.row[0].x, a.row[1].x, a.row[2].x} * k,
-                  Vec3{a.row[0].y, a.row[1].y, a.row[2].y} * k,
-                  Vec3{a.row[0].z, a.row[1].z, a.row[2].z} * k},
-                 {}};
+  Affine inverse{
+      {Vec3{a.row[0].x, a.row[1].x, a.row[2].x} * k, Vec3{a.row[0].y, a.row[1].y, a.row[2].y} * k,
+       Vec3{a.row[0].z, a.row[1].z, a.row[2].z} * k},
+      {}};
   inverse.shift = -inverse.Direction(a.shift);
   return inverse;
 }
@@ -118,7 +118,9 @@ bool Scene::Trace(Ray& ray, Hit& hit) const {
   return found;
 }
 
-bool Scene::Nearest(Ray ray, Hit& hit) const { return Trace<false>(ray, hit); }
+bool Scene::Nearest(Ray ray, Hit& hit) const {
+  return Trace<false>(ray, hit);
+}
 
 bool Scene::Blocked(Ray ray) const {
   Hit unused;
@@ -144,7 +146,8 @@ Scene::Point Scene::At(const Ray& ray, const Hit& hit) const {
   const Vec3 e2 = c.position - a.position;
   p.flatNormal = Normalized(instance.toWorld.Direction(Cross(e1, e2)));
   const Vec3 smooth = a.normal * wa + b.normal * hit.b + c.normal * hit.c;
-  p.normal = Dot(smooth, smooth) > 0 ? Normalized(instance.toWorld.Direction(smooth)) : p.flatNormal;
+  p.normal =
+      Dot(smooth, smooth) > 0 ? Normalized(instance.toWorld.Direction(smooth)) : p.flatNormal;
   const float du1 = b.u - a.u;
   const float dv1 = b.v - a.v;
   const float du2 = c.u - a.u;

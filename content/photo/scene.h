@@ -19,7 +19,9 @@ struct Placement {
 struct Affine {
   Vec3 row[3];
   Vec3 shift;
-  [[nodiscard]] Vec3 Direction(Vec3 v) const { return {Dot(row[0], v), Dot(row[1], v), Dot(row[2], v)}; }
+  [[nodiscard]] Vec3 Direction(Vec3 v) const {
+    return {Dot(row[0], v), Dot(row[1], v), Dot(row[2], v)};
+  }
   [[nodiscard]] Vec3 Point(Vec3 p) const { return Direction(p) + shift; }
 };
 [[nodiscard]] Affine ToWorld(const Placement& placement);
@@ -50,8 +52,8 @@ class Scene {
 
   struct Point {
     Vec3 position;
-    Vec3 flatNormal;  // unit, either side
-    Vec3 normal;      // the smooth one where the mesh has one
+    Vec3 flatNormal;      // unit, either side
+    Vec3 normal;          // the smooth one where the mesh has one
     Vec3 alongU, alongV;  // metres per unit of u and v
     float u = 0, v = 0;
     float seed = 0, instanceSeed = 0;

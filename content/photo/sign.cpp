@@ -21,18 +21,40 @@ struct Letter {
 constexpr std::array<Letter, 14> kLetters{{
     {'T', 2, {{{0, 0, 4, 0}, {2, 0, 2, 6}}}},
     {'A', 3, {{{0, 6, 2, 0}, {2, 0, 4, 6}, {0.9f, 4, 3.1f, 4}}}},
-    {'R', 5, {{{0, 0, 0, 6}, {0, 0, 3.6f, 0.2f}, {3.9f, 0.6f, 3.9f, 2.6f}, {3.6f, 3, 0, 3}, {2, 3, 4, 6}}}},
+    {'R',
+     5,
+     {{{0, 0, 0, 6}, {0, 0, 3.6f, 0.2f}, {3.9f, 0.6f, 3.9f, 2.6f}, {3.6f, 3, 0, 3}, {2, 3, 4, 6}}}},
     {'N', 3, {{{0, 6, 0, 0}, {0, 0, 4, 6}, {4, 6, 4, 0}}}},
     {'W', 4, {{{-0.3f, 0, 1, 6}, {1, 6, 2, 1.5f}, {2, 1.5f, 3, 6}, {3, 6, 4.3f, 0}}}},
     {'I', 1, {{{2, 0, 2, 6}}}},
-    {'C', 5, {{{4, 0.7f, 3.2f, 0}, {3.2f, 0, 0.8f, 0}, {0, 0.8f, 0, 5.2f}, {0.8f, 6, 3.2f, 6}, {3.2f, 6, 4, 5.3f}}}},
+    {'C',
+     5,
+     {{{4, 0.7f, 3.2f, 0},
+       {3.2f, 0, 0.8f, 0},
+       {0, 0.8f, 0, 5.2f},
+       {0.8f, 6, 3.2f, 6},
+       {3.2f, 6, 4, 5.3f}}}},
     {'K', 3, {{{0, 0, 0, 6}, {4, 0, 0, 3.4f}, {1.3f, 2.6f, 4, 6}}}},
-    {'D', 5, {{{0, 0, 0, 6}, {0, 0, 2.8f, 0}, {4, 1.2f, 4, 4.8f}, {2.8f, 6, 0, 6}, {2.8f, 0, 4, 1.2f}}}},
+    {'D',
+     5,
+     {{{0, 0, 0, 6}, {0, 0, 2.8f, 0}, {4, 1.2f, 4, 4.8f}, {2.8f, 6, 0, 6}, {2.8f, 0, 4, 1.2f}}}},
     {'Y', 3, {{{0, 0, 2, 3}, {4, 0, 2, 3}, {2, 3, 2, 6}}}},
     {'E', 4, {{{0, 0, 0, 6}, {0, 0, 4, 0}, {0, 3, 3.2f, 3}, {0, 6, 4, 6}}}},
     {'F', 3, {{{0, 0, 0, 6}, {0, 0, 4, 0}, {0, 3, 3.2f, 3}}}},
-    {'S', 5, {{{4, 0.4f, 0.6f, 0}, {0, 0.6f, 0.3f, 2.6f}, {0.3f, 2.7f, 3.7f, 3.3f}, {4, 3.6f, 3.7f, 5.5f}, {3.6f, 5.9f, 0, 5.7f}}}},
-    {'O', 5, {{{0.8f, 0, 3.2f, 0}, {4, 0.8f, 4, 5.2f}, {3.2f, 6, 0.8f, 6}, {0, 5.2f, 0, 0.8f}, {0, 0.8f, 0.8f, 0}}}},
+    {'S',
+     5,
+     {{{4, 0.4f, 0.6f, 0},
+       {0, 0.6f, 0.3f, 2.6f},
+       {0.3f, 2.7f, 3.7f, 3.3f},
+       {4, 3.6f, 3.7f, 5.5f},
+       {3.6f, 5.9f, 0, 5.7f}}}},
+    {'O',
+     5,
+     {{{0.8f, 0, 3.2f, 0},
+       {4, 0.8f, 4, 5.2f},
+       {3.2f, 6, 0.8f, 6},
+       {0, 5.2f, 0, 0.8f},
+       {0, 0.8f, 0.8f, 0}}}},
 }};
 
 float StrokeDistance(const Stroke& s, float x, float y) {
@@ -65,7 +87,9 @@ float TextDistance(std::string_view text, float height, float top, float x, floa
   return best * unit;
 }
 
-float Abs(float v) { return v < 0 ? -v : v; }
+float Abs(float v) {
+  return v < 0 ? -v : v;
+}
 
 // Below 0 inside a rectangle with round corners.
 float RoundBox(float x, float y, float halfX, float halfY, float radius) {
@@ -87,7 +111,8 @@ float Enamel(float x, float y) {
   const float stones = Cells2(x * 5.5f + 0.6f, y * 5.5f + 0.35f).nearest * 0.18f;
   float good = edge * 9 + 0.02f + 0.22f * ragged;
   good = Min(good, (screw - 0.016f) * 8 + 0.16f * ragged);
-  good = Min(good, (stones - 0.012f) * 6 + 0.13f * ragged + 0.25f * Fbm2(x * 2.1f, y * 2.1f + 4, 2) + 0.04f);
+  good = Min(good, (stones - 0.012f) * 6 + 0.13f * ragged +
+                       0.25f * Fbm2(x * 2.1f, y * 2.1f + 4, 2) + 0.04f);
   return good;
 }
 
@@ -98,8 +123,10 @@ void DescribeSign(const Scene::Point& p, float footprint, Surface& s) {
   const float y = p.v;
   const float soft = Max(0.0010f, 0.5f * footprint);
   float white = 0;
-  white = Max(white, Smooth(0.0112f + soft, 0.0112f - soft, TextDistance("TARNWICK", 0.108f, 0.142f, x, y)));
-  white = Max(white, Smooth(0.0078f + soft, 0.0078f - soft, TextDistance("DAIRY", 0.075f, -0.085f, x * 0.98f, y)));
+  white = Max(white, Smooth(0.0112f + soft, 0.0112f - soft,
+                            TextDistance("TARNWICK", 0.108f, 0.142f, x, y)));
+  white = Max(white, Smooth(0.0078f + soft, 0.0078f - soft,
+                            TextDistance("DAIRY", 0.075f, -0.085f, x * 0.98f, y)));
   const float rule = Max(Abs(y + 0.028f) - 0.0035f, Abs(x) - 0.37f);
   white = Max(white, Smooth(soft, -soft, rule));
   const float border = Abs(RoundBox(x, y, kHalfX - 0.026f, kHalfY - 0.026f, 0.02f)) - 0.0045f;
@@ -113,12 +140,15 @@ void DescribeSign(const Scene::Point& p, float footprint, Surface& s) {
   float run = 0;
   for (int i = 1; i <= 5; ++i) {
     const float up = static_cast<float>(i) * 0.022f;
-    run = Max(run, Smooth(0.03f, -0.05f, Enamel(x + 0.004f * Noise2(x * 40, y * 9), y + up)) * (1 - static_cast<float>(i) / 6.5f));
+    run = Max(run, Smooth(0.03f, -0.05f, Enamel(x + 0.004f * Noise2(x * 40, y * 9), y + up)) *
+                       (1 - static_cast<float>(i) / 6.5f));
   }
   glaze = Mix(glaze, glaze * Vec3{0.75f, 0.46f, 0.26f} + Vec3{0.05f, 0.022f, 0.006f}, 0.8f * run);
   const float held = Smooth(-0.004f, 0.012f, good);
   const float fine = Fbm2(x * 90, y * 90, 3);
-  Vec3 iron = Mix(Vec3{0.21f, 0.085f, 0.035f}, Vec3{0.055f, 0.032f, 0.024f}, Smooth(0.0f, -0.25f, good + 0.1f * fine)) * (1 + 0.4f * fine);
+  Vec3 iron = Mix(Vec3{0.21f, 0.085f, 0.035f}, Vec3{0.055f, 0.032f, 0.024f},
+                  Smooth(0.0f, -0.25f, good + 0.1f * fine)) *
+              (1 + 0.4f * fine);
   // The ground coat shows dark along the break.
   iron = Mix(iron, Vec3{0.012f, 0.012f, 0.016f}, Smooth(-0.035f, -0.006f, good) * 0.8f);
   s.albedo = Mix(iron, glaze, held);

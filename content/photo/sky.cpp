@@ -12,7 +12,9 @@ constexpr int kDomeSide = 96;
 // Sky pixels a side for one of the picture: clouds have no finer detail.
 constexpr float kSeenScale = 0.4f;
 
-float Abs(float v) { return v < 0 ? -v : v; }
+float Abs(float v) {
+  return v < 0 ? -v : v;
+}
 
 // The dome is folded onto a square like an octahedron; the horizon is its
 // diamond, what lies below it fills the corners.
@@ -59,12 +61,14 @@ Vec3 Sky::Map::At(float x, float y) const {
   const int ix = static_cast<int>(fx);
   const int iy = static_cast<int>(fy);
   const auto pixel = [&](int px, int py) {
-    return pixels[static_cast<std::size_t>(std::min(py, height - 1)) * static_cast<std::size_t>(width) +
+    return pixels[static_cast<std::size_t>(std::min(py, height - 1)) *
+                      static_cast<std::size_t>(width) +
                   static_cast<std::size_t>(std::min(px, width - 1))];
   };
   const float tx = fx - static_cast<float>(ix);
   const float ty = fy - static_cast<float>(iy);
-  return Mix(Mix(pixel(ix, iy), pixel(ix + 1, iy), tx), Mix(pixel(ix, iy + 1), pixel(ix + 1, iy + 1), tx), ty);
+  return Mix(Mix(pixel(ix, iy), pixel(ix + 1, iy), tx),
+             Mix(pixel(ix, iy + 1), pixel(ix + 1, iy + 1), tx), ty);
 }
 
 Sky::Sky(const Camera& camera, int width, int height, ThreadPool& pool) : seenScale_(kSeenScale) {
@@ -75,9 +79,12 @@ Sky::Sky(const Camera& camera, int width, int height, ThreadPool& pool) : seenSc
     pool.ForRows(0, h, 4, [&](int first, int last) {
       for (int y = first; y < last; ++y) {
         for (int x = 0; x < w; ++x) {
-          const std::uint32_t h2 = HashWords(static_cast<std::uint32_t>(x), static_cast<std::uint32_t>(y) + 77);
-          map.pixels[static_cast<std::size_t>(y) * static_cast<std::size_t>(w) + static_cast<std::size_t>(x)] =
-              CloudySky(direction(static_cast<float>(x) + 0.5f, static_cast<float>(y) + 0.5f), UnitFloat(h2));
+          const std::uint32_t h2 =
+              HashWords(static_cast<std::uint32_t>(x), static_cast<std::uint32_t>(y) + 77);
+          map.pixels[static_cast<std::size_t>(y) * static_cast<std::size_t>(w) +
+                     static_cast<std::size_t>(x)] =
+              CloudySky(direction(static_cast<float>(x) + 0.5f, static_cast<float>(y) + 0.5f),
+                        UnitFloat(h2));
         }
       }
     });
@@ -89,7 +96,9 @@ Sky::Sky(const Camera& camera, int width, int height, ThreadPool& pool) : seenSc
        [](float x, float y) { return DomeDirection(x / kDomeSide, y / kDomeSide); });
 }
 
-Vec3 Sky::Seen(float x, float y) const { return seen_.At(x * seenScale_, y * seenScale_); }
+Vec3 Sky::Seen(float x, float y) const {
+  return seen_.At(x * seenScale_, y * seenScale_);
+}
 
 Vec3 Sky::Dome(Vec3 d) const {
   const float k = 1 / (Abs(d.x) + Abs(d.y) + Abs(d.z));

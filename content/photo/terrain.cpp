@@ -12,7 +12,9 @@ float TerrainHeight(float x, float z) {
   const float roll = Smooth(12, 70, away) * (1.6f * Fbm2(x * 0.02f, z * 0.02f, 3) + 0.9f);
   // The land climbs behind the barn, then stands up in wooded hills.
   const float behind = Max(-z - 30, 0);
-  const float rise = Smooth(0, 260, behind) * 7 + Smooth(220, 900, behind) * (38 + 46 * Fbm2(x * 0.0026f + 2.2f, z * 0.0026f, 4));
+  const float rise =
+      Smooth(0, 260, behind) * 7 +
+      Smooth(220, 900, behind) * (38 + 46 * Fbm2(x * 0.0026f + 2.2f, z * 0.0026f, 4));
   return yard + roll + rise;
 }
 
@@ -51,7 +53,8 @@ Mesh TerrainMesh() {
   }
   for (std::uint32_t j = 0; j + 1 < n; ++j)
     for (std::uint32_t i = 0; i + 1 < n; ++i)
-      mesh.Quad(j * n + i, j * n + i + 1, (j + 1) * n + i + 1, (j + 1) * n + i, Material::kGround, 0.5f);
+      mesh.Quad(j * n + i, j * n + i + 1, (j + 1) * n + i + 1, (j + 1) * n + i, Material::kGround,
+                0.5f);
   return mesh;
 }
 

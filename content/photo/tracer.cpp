@@ -6,9 +6,9 @@
 namespace tarnwick::photo {
 namespace {
 
-constexpr float kLift = 0.0015f;      // rays start this far off their surface, metres
-constexpr float kShadowReach = 60;    // nothing that stands here throws a longer shadow
-constexpr float kAmbientReach = 16;   // beyond, light from around comes from sky and land
+constexpr float kLift = 0.0015f;     // rays start this far off their surface, metres
+constexpr float kShadowReach = 60;   // nothing that stands here throws a longer shadow
+constexpr float kAmbientReach = 16;  // beyond, light from around comes from sky and land
 
 enum Choice : std::uint32_t { kLens, kSunDisc, kAround, kFork, kMirror, kSunDisc2 };
 
@@ -17,7 +17,8 @@ Vec3 CosineAround(Vec3 normal, float a, float b) {
   Vec3 s;
   Basis(normal, t, s);
   const float r = std::sqrt(a);
-  return t * (r * Cos(2 * kPi * b)) + s * (r * Sin(2 * kPi * b)) + normal * std::sqrt(Max(1 - a, 0));
+  return t * (r * Cos(2 * kPi * b)) + s * (r * Sin(2 * kPi * b)) +
+         normal * std::sqrt(Max(1 - a, 0));
 }
 
 Vec3 SunRay(float a, float b) {
@@ -61,7 +62,8 @@ Vec3 SunDiffuse(const Surface& s, Vec3 flatNormal, Vec3 eye, Vec3 l) {
 }
 
 // Light a bounced ray brings: the sky, or a surface in sun and sky.
-Vec3 Incoming(const Scene& scene, const Sky& sky, Vec3 from, Vec3 direction, float reach, const Choices& choices) {
+Vec3 Incoming(const Scene& scene, const Sky& sky, Vec3 from, Vec3 direction, float reach,
+              const Choices& choices) {
   const Ray ray{from, direction, reach};
   Hit hit;
   if (!scene.Nearest(ray, hit)) return sky.Dome(direction);
@@ -69,14 +71,16 @@ Vec3 Incoming(const Scene& scene, const Sky& sky, Vec3 from, Vec3 direction, flo
   const Surface s = DescribeRoughly(p, -direction);
   const Sun& sun = TheSun();
   // A guess of the light that reaches that place from all around.
-  const Vec3 around = Mix(Vec3{0.11f, 0.115f, 0.09f}, Vec3{0.30f, 0.35f, 0.42f}, 0.5f + 0.5f * s.normal.y) * 0.8f;
+  const Vec3 around =
+      Mix(Vec3{0.11f, 0.115f, 0.09f}, Vec3{0.30f, 0.35f, 0.42f}, 0.5f + 0.5f * s.normal.y) * 0.8f;
   Vec3 light = (s.albedo + s.through * 0.6f) * around;
   float a = 0;
   float b = 0;
   choices.Pair(kSunDisc2, a, b);
   const Vec3 l = SunRay(a, b);
   const Vec3 sunlit = SunDiffuse(s, p.flatNormal, -direction, l);
-  if (Luminance(sunlit) > 0 && !scene.Blocked({Offset(p.position, p.flatNormal, l), l, kShadowReach}))
+  if (Luminance(sunlit) > 0 &&
+      !scene.Blocked({Offset(p.position, p.flatNormal, l), l, kShadowReach}))
     light += sunlit * sun.irradiance;
   return Min(light, {2.5f, 2.5f, 2.5f});
 }
@@ -114,13 +118,17 @@ Sample TraceSample(const Scene& scene, const Sky& sky, const Camera& camera, flo
   Vec3 direct;
   choices.Pair(kSunDisc, a, b);
   const Vec3 l = SunRay(a, b);
-  const Vec3 lit = SunDiffuse(s, p.flatNormal, eye, l) + (Dot(p.flatNormal, eye) * Dot(p.flatNormal, l) > 0 ? Highlight(s, eye, l) : Vec3{});
-  if (Luminance(lit) > 0 && !scene.Blocked({Offset(p.position, p.flatNormal, l), l, kShadowReach})) direct = lit * sun.irradiance;
+  const Vec3 lit =
+      SunDiffuse(s, p.flatNormal, eye, l) +
+      (Dot(p.flatNormal, eye) * Dot(p.flatNormal, l) > 0 ? Highlight(s, eye, l) : Vec3{});
+  if (Luminance(lit) > 0 && !scene.Blocked({Offset(p.position, p.flatNormal, l), l, kShadowReach}))
+    direct = lit * sun.irradiance;
 
   // One ray for the light around: mirrored, thrown back, or let through.
   const float facing = Max(Dot(s.normal, eye), 0);
   const float m = 1 - facing;
-  const Vec3 fresnel = s.specular + (Vec3{1, 1, 1} - s.specular) * (m * m * m * m * m * (1 - 0.85f * s.roughness));
+  const Vec3 fresnel =
+      s.specular + (Vec3{1, 1, 1} - s.specular) * (m * m * m * m * m * (1 - 0.85f * s.roughness));
   // Dull surfaces mirror so wide a cone that it is as good as diffuse.
   const bool glossy = s.roughness < 0.5f;
   const float mirrorShare = glossy ? Luminance(fresnel) : 0.0f;
@@ -141,12 +149,17 @@ Sample TraceSample(const Scene& scene, const Sky& sky, const Camera& camera, flo
     Vec3 d = ray.direction - n * (2 * Dot(n, ray.direction));
     const Vec3 side = Dot(p.flatNormal, eye) < 0 ? -p.flatNormal : p.flatNormal;
     if (Dot(d, side) < 0) d = d - side * (2 * Dot(d, side));
-    sample.mirrored = haze.left * Incoming(scene, sky, Offset(p.position, p.flatNormal, d), Normalized(d), 1e30f, choices) * fresnel * (total / mirrorShare);
+    sample.mirrored =
+        haze.left *
+        Incoming(scene, sky, Offset(p.position, p.flatNormal, d), Normalized(d), 1e30f, choices) *
+        fresnel * (total / mirrorShare);
   } else {
     const bool back = fork < mirrorShare + backShare;
     const Vec3 n = back ? s.normal : -s.normal;
     const Vec3 d = CosineAround(n, a, b);
-    sample.ambient = Incoming(scene, sky, Offset(p.position, p.flatNormal, d), d, kAmbientReach, choices) * (total / (backShare + throughShare));
+    sample.ambient =
+        Incoming(scene, sky, Offset(p.position, p.flatNormal, d), d, kAmbientReach, choices) *
+        (total / (backShare + throughShare));
   }
   sample.tint = (s.albedo + s.through + sheen) * haze.left;
   sample.direct = direct * haze.left + haze.added;

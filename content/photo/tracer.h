@@ -12,12 +12,12 @@ namespace tarnwick::photo {
 // around is kept apart from the surface's colour, so that its noise can be
 // smoothed without touching the colour's detail.
 struct Sample {
-  Vec3 direct;      // sun, sky, haze: final
-  Vec3 mirrored;    // what the surface mirrors: final
-  Vec3 tint;        // what `ambient` is to be multiplied with
-  Vec3 ambient;     // light from all around, over pi
+  Vec3 direct;          // sun, sky, haze: final
+  Vec3 mirrored;        // what the surface mirrors: final
+  Vec3 tint;            // what `ambient` is to be multiplied with
+  Vec3 ambient;         // light from all around, over pi
   bool around = false;  // `mirrored` and `ambient` have been traced
-  Vec3 normal;      // zero for the sky
+  Vec3 normal;          // zero for the sky
   float distance = 0;
 };
 
@@ -36,7 +36,7 @@ class Choices {
 
 // Follows the ray: what it meets, the sun there, and one bounce of the light
 // from around if `around`. `x`, `y` is the ray's place in the picture.
-[[nodiscard]] Sample TraceSample(const Scene& scene, const Sky& sky, const Camera& camera, float x, float y,
-                                 const Choices& choices, bool around);
+[[nodiscard]] Sample TraceSample(const Scene& scene, const Sky& sky, const Camera& camera, float x,
+                                 float y, const Choices& choices, bool around);
 
 }  // namespace tarnwick::photo

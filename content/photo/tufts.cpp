@@ -103,7 +103,8 @@ Mesh MakeWeed(std::uint32_t seed, float height) {
     Blade blade;
     blade.base = base;
     blade.along = Normalized(along);
-    blade.side = Normalized(Cross(blade.along, Vec3{random.Signed() * 0.3f, 1, random.Signed() * 0.3f}));
+    blade.side =
+        Normalized(Cross(blade.along, Vec3{random.Signed() * 0.3f, 1, random.Signed() * 0.3f}));
     blade.length = length;
     blade.width = length * random.Range(0.34f, 0.46f);
     blade.fold = random.Range(0.2f, 0.6f);
@@ -122,13 +123,16 @@ Mesh MakeWeed(std::uint32_t seed, float height) {
     const Vec3 root = InDisc(random, 0.09f);
     const Vec3 lean = InDisc(random, 0.16f);
     const float tall = height * random.Range(0.7f, 1.1f);
-    const TubePoint stem[3] = {{root, 0.005f}, {root + lean * 0.3f + Vec3{0, tall * 0.5f, 0}, 0.004f}, {root + lean + Vec3{0, tall, 0}, 0.002f}};
+    const TubePoint stem[3] = {{root, 0.005f},
+                               {root + lean * 0.3f + Vec3{0, tall * 0.5f, 0}, 0.004f},
+                               {root + lean + Vec3{0, tall, 0}, 0.002f}};
     AddTube(mesh, stem, 4, Material::kGrass, 0.5f);
     const int leaves = static_cast<int>(tall * 46);
     for (int i = 0; i < leaves; ++i) {
       const float t = (static_cast<float>(i) + 1) / static_cast<float>(leaves);
       const float turn = 1.65f * static_cast<float>(i) + random.Signed() * 0.3f;
-      leaf(root + lean * (t * t) + Vec3{0, tall * t, 0}, {Cos(turn), 0.25f + 0.5f * t, Sin(turn)}, Mix(0.12f, 0.05f, t) * random.Range(0.8f, 1.2f));
+      leaf(root + lean * (t * t) + Vec3{0, tall * t, 0}, {Cos(turn), 0.25f + 0.5f * t, Sin(turn)},
+           Mix(0.12f, 0.05f, t) * random.Range(0.8f, 1.2f));
     }
   }
   return mesh;
@@ -147,7 +151,8 @@ Mesh MakeFlowers(std::uint32_t seed, int count, float height, float kind) {
     s.material = Material::kGrass;
     s.pieces = 3;
     const Vec3 tip = AddRibbon(mesh, s, random);
-    const Vec3 face = Normalized(Vec3{random.Signed() * 0.5f - 0.2f, 1, random.Signed() * 0.5f + 0.25f});
+    const Vec3 face =
+        Normalized(Vec3{random.Signed() * 0.5f - 0.2f, 1, random.Signed() * 0.5f + 0.25f});
     Vec3 a;
     Vec3 b;
     Basis(face, a, b);
@@ -164,7 +169,9 @@ Mesh MakeFlowers(std::uint32_t seed, int count, float height, float kind) {
       AddBlade(mesh, petal);
     }
     // The yellow heart.
-    const TubePoint heart[3] = {{tip - face * 0.001f, 0.0055f}, {tip + face * 0.003f, 0.0048f}, {tip + face * 0.0045f, 0.0005f}};
+    const TubePoint heart[3] = {{tip - face * 0.001f, 0.0055f},
+                                {tip + face * 0.003f, 0.0048f},
+                                {tip + face * 0.0045f, 0.0005f}};
     AddTube(mesh, heart, 6, Material::kPetal, 0.75f);
   }
   return mesh;

@@ -14,8 +14,8 @@ struct TuftPlan {
   float radius = 0.28f;
   float height = 0.16f;
   float width = 0.004f;
-  float dry = 0.15f;   // share of dead blades
-  int pieces = 3;      // along a blade
+  float dry = 0.15f;  // share of dead blades
+  int pieces = 3;     // along a blade
 };
 [[nodiscard]] Mesh MakeTuft(const TuftPlan& plan);
 

@@ -10,7 +10,8 @@ namespace tarnwick::photo {
 namespace {
 
 // A log or a split of one along x; `kept` is the part of its round that is left.
-void AddLog(Mesh& mesh, Vec3 centre, float length, float radius, float kept, float turn, Random& random) {
+void AddLog(Mesh& mesh, Vec3 centre, float length, float radius, float kept, float turn,
+            Random& random) {
   const float seed = random.Unit();
   constexpr int sides = 14;
   const auto outline = [&](int i) {
@@ -19,15 +20,18 @@ void AddLog(Mesh& mesh, Vec3 centre, float length, float radius, float kept, flo
     return Vec3{0, r * Sin(a), r * Cos(a)};
   };
   const Vec3 skew{0, random.Signed() * 0.01f, random.Signed() * 0.012f};
-  const auto end = [&](float x, Vec3 rim) { return centre + Vec3{x, 0, 0} + rim + skew * (x < 0 ? -1.0f : 1.0f); };
+  const auto end = [&](float x, Vec3 rim) {
+    return centre + Vec3{x, 0, 0} + rim + skew * (x < 0 ? -1.0f : 1.0f);
+  };
   const float front = length / 2 + random.Signed() * 0.025f;
   const float back = -length / 2;
   const auto side = [&](Vec3 a, Vec3 b, Material material, float u0, float u1) {
     const bool round = material == Material::kBark;
     const Vec3 na = round ? Normalized(a) : Vec3{};
     const Vec3 nb = round ? Normalized(b) : Vec3{};
-    mesh.Quad(mesh.Add({end(back, a), na, u0, 0}), mesh.Add({end(back, b), nb, u1, 0}), mesh.Add({end(front, b), nb, u1, length}),
-              mesh.Add({end(front, a), na, u0, length}), material, seed);
+    mesh.Quad(mesh.Add({end(back, a), na, u0, 0}), mesh.Add({end(back, b), nb, u1, 0}),
+              mesh.Add({end(front, b), nb, u1, length}), mesh.Add({end(front, a), na, u0, length}),
+              material, seed);
   };
   const auto heart = mesh.Add({end(front, {}), {}, 0, 0});
   for (int i = 0; i < sides; ++i) {
@@ -35,7 +39,8 @@ void AddLog(Mesh& mesh, Vec3 centre, float length, float radius, float kept, flo
     const Vec3 b = outline(i + 1);
     const float arc = 2 * kPi * radius * kept / sides;
     side(a, b, Material::kBark, arc * static_cast<float>(i), arc * static_cast<float>(i + 1));
-    mesh.Face(heart, mesh.Add({end(front, a), {}, a.z, a.y}), mesh.Add({end(front, b), {}, b.z, b.y}), Material::kLogEnd, seed);
+    mesh.Face(heart, mesh.Add({end(front, a), {}, a.z, a.y}),
+              mesh.Add({end(front, b), {}, b.z, b.y}), Material::kLogEnd, seed);
   }
   if (kept < 0.99f) {
     side({}, outline(0), Material::kBareWood, 0, radius);
@@ -57,7 +62,8 @@ Mesh MakeLogPile(float length) {
       const float radius = random.Range(0.058f, 0.098f);
       const float lot = random.Unit();
       const float kept = lot < 0.35f ? 1.0f : (lot < 0.75f ? 0.5f : 0.27f);
-      AddLog(mesh, {random.Signed() * 0.02f, y + random.Signed() * 0.018f, z + radius}, 0.36f, radius, kept, random.Unit() * 6.3f, random);
+      AddLog(mesh, {random.Signed() * 0.02f, y + random.Signed() * 0.018f, z + radius}, 0.36f,
+             radius, kept, random.Unit() * 6.3f, random);
       z += radius * (kept > 0.4f ? 1.86f : 1.45f);
     }
     y += 0.118f;
@@ -69,7 +75,8 @@ Mesh MakeBoardPile() {
   Mesh mesh;
   Random random(331);
   for (const float x : {-0.75f, 0.8f}) {
-    Board sleeper = BoardBetween({x, 0.05f, -0.4f}, {x + 0.05f, 0.05f, 0.4f}, {0, 1, 0}, 0.11f, 0.10f);
+    Board sleeper =
+        BoardBetween({x, 0.05f, -0.4f}, {x + 0.05f, 0.05f, 0.4f}, {0, 1, 0}, 0.11f, 0.10f);
     sleeper.seed = random.Unit();
     AddBoard(mesh, sleeper);
   }
@@ -81,7 +88,9 @@ Mesh MakeBoardPile() {
       const float width = random.Range(0.14f, 0.2f);
       const float off = random.Signed() * 0.13f;
       const float skew = random.Signed() * (course == 4 ? 0.10f : 0.02f);
-      Board b = BoardBetween({-1.2f + off, y, z + width / 2 + skew}, {1.25f + off * 0.5f, y, z + width / 2 - skew}, {0, 1, 0}, width, 0.03f);
+      Board b =
+          BoardBetween({-1.2f + off, y, z + width / 2 + skew},
+                       {1.25f + off * 0.5f, y, z + width / 2 - skew}, {0, 1, 0}, width, 0.03f);
       b.seed = random.Unit();
       b.warp = 0.012f;
       // Some came off the wall and carry its paint.
@@ -138,15 +147,21 @@ Mesh MakeFence(Vec3 from, Vec3 to) {
     const Vec3 lean{random.Signed() * 0.06f, 1, random.Signed() * 0.06f};
     const float tall = random.Range(1.28f, 1.42f);
     const float r = random.Range(0.055f, 0.075f);
-    const TubePoint post[6] = {{base, r}, {base + lean * (tall * 0.5f), r * 0.97f}, {base + lean * (tall * 0.96f), r * 0.93f},
-                               {base + lean * (tall * 0.995f), r * 0.8f}, {base + lean * tall, r * 0.5f}, {base + lean * tall, 0.001f}};
+    const TubePoint post[6] = {{base, r},
+                               {base + lean * (tall * 0.5f), r * 0.97f},
+                               {base + lean * (tall * 0.96f), r * 0.93f},
+                               {base + lean * (tall * 0.995f), r * 0.8f},
+                               {base + lean * tall, r * 0.5f},
+                               {base + lean * tall, 0.001f}};
     AddTube(mesh, post, 12, Material::kBareWood, random.Unit());
   }
   for (const float y : {0.38f, 0.70f, 1.0f}) {
     for (std::size_t i = 0; i + 1 < posts.size(); ++i) {
       if (y > 0.6f && y < 0.8f && i == 2) continue;  // one has rotted away
-      const Vec3 a = foot(posts[i] - 0.12f) + Vec3{0, y + random.Signed() * 0.03f, 0} + out * (0.075f + 0.01f * static_cast<float>(i % 2));
-      const Vec3 b = foot(posts[i + 1] + 0.12f) + Vec3{0, y + random.Signed() * 0.03f, 0} + out * (0.075f + 0.01f * static_cast<float>(i % 2));
+      const Vec3 a = foot(posts[i] - 0.12f) + Vec3{0, y + random.Signed() * 0.03f, 0} +
+                     out * (0.075f + 0.01f * static_cast<float>(i % 2));
+      const Vec3 b = foot(posts[i + 1] + 0.12f) + Vec3{0, y + random.Signed() * 0.03f, 0} +
+                     out * (0.075f + 0.01f * static_cast<float>(i % 2));
       Board rail = BoardBetween(a, b, out, random.Range(0.085f, 0.115f), 0.032f);
       rail.seed = random.Unit();
       rail.warp = 0.02f;
