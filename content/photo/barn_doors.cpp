@@ -30,7 +30,8 @@ void AddLeaf(Mesh& mesh, float hinge, float side, float angle, Random& random) {
     b.warp = 0.003f;
     b.material = Material::kBoardGreen;
     b.seed = random.Unit();
-    b.origin = at(a + w / 2, foot + random.Range(-0.012f, 0.012f), random.Range(-0.002f, 0.002f));
+    const float uneven = random.Range(-0.012f, 0.012f);
+    b.origin = at(a + w / 2, foot + uneven, random.Range(-0.002f, 0.002f));
     b.length = head - foot;
     b.steps = 10;
     AddBoard(mesh, b);

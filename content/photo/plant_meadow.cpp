@@ -78,8 +78,9 @@ class Meadow {
       const Vec3 at = view_.Position() + d * away;
       if (TrackWear(at.x, at.z) > 0.3f) continue;
       const float lot = random.Unit();
-      Put(lot < 0.72f ? tall[random.Word() % 3] : (lot < 0.93f ? ears : daisy), at.x, at.z,
-          random.Range(0.75f, 1.25f), random);
+      const float size = random.Range(0.75f, 1.25f);
+      Put(lot < 0.72f ? tall[random.Word() % 3] : (lot < 0.93f ? ears : daisy), at.x, at.z, size,
+          random);
     }
     Scatter(0.85f, 22, 75, [&](float x, float z, float away) {
       Put(coarse, x, z, random.Range(0.6f, 1.05f) * (away < 28 ? 0.6f : 1.0f), random);

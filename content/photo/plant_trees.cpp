@@ -42,7 +42,8 @@ class Woods {
       const float x = random_.Range(-1.1f, 0.7f) * (-z);
       if (Noise2(x * 0.006f + 5, z * 0.006f) + 0.3f * Noise2(x * 0.02f, z * 0.02f) < -0.16f)
         continue;
-      Put(far_[random_.Word() % 3], x, z, random_.Range(1.0f, 1.6f), random_.Unit());
+      const float size = random_.Range(1.0f, 1.6f);
+      PutFar(x, z, size);
     }
   }
 
@@ -51,13 +52,18 @@ class Woods {
     scene_.AddInstance(
         mesh, {{x, TerrainHeight(x, z) - 0.05f * scale, z}, random_.Unit() * 6.2832f, scale}, seed);
   }
+  void PutFar(float x, float z, float scale) {
+    const int mesh = far_[random_.Word() % 3];
+    const float seed = random_.Unit();
+    Put(mesh, x, z, scale, seed);
+  }
   void Row(Vec3 from, Vec3 to, int count, float least, float most) {
     for (int i = 0; i < count; ++i) {
       const float t =
           (static_cast<float>(i) + random_.Signed() * 0.45f) / static_cast<float>(count);
       const Vec3 p = Mix(from, to, t) + Vec3{random_.Signed() * 2, 0, random_.Signed() * 3};
       const float size = random_.Unit();
-      Put(far_[random_.Word() % 3], p.x, p.z, Mix(least, most, size * size), random_.Unit());
+      PutFar(p.x, p.z, Mix(least, most, size * size));
     }
   }
 

@@ -84,8 +84,9 @@ class Grower {
       const float t = Mix(
           0.22f, 1, (static_cast<float>(i) + random_.Unit()) / static_cast<float>(plan_.branches));
       turn += 2.39996f + random_.Signed() * 0.5f;
-      Branch(Along(path, t), Fork(Heading(path, t), turn, random_.Range(0.6f, 1.2f)),
-             length * Mix(0.46f, 0.22f, t) * random_.Range(0.75f, 1.25f));
+      const float slant = random_.Range(0.6f, 1.2f);
+      const float share = Mix(0.46f, 0.22f, t) * random_.Range(0.75f, 1.25f);
+      Branch(Along(path, t), Fork(Heading(path, t), turn, slant), length * share);
     }
   }
 
@@ -98,8 +99,9 @@ class Grower {
       const float t =
           Mix(0.15f, 1, (static_cast<float>(i) + random_.Unit()) / static_cast<float>(plan_.twigs));
       turn += 2.39996f;
-      Twig(Along(path, t).centre, Fork(Heading(path, t), turn, random_.Range(0.5f, 1.3f)),
-           random_.Range(0.22f, 0.50f));
+      const float slant = random_.Range(0.5f, 1.3f);
+      const float reach = random_.Range(0.22f, 0.50f);
+      Twig(Along(path, t).centre, Fork(Heading(path, t), turn, slant), reach);
     }
   }
 
@@ -115,7 +117,9 @@ class Grower {
       Blade leaf;
       leaf.base = Along(path, t).centre +
                   Vec3{random_.Signed(), random_.Signed(), random_.Signed()} * 0.035f;
-      leaf.along = Normalized(Fork(heading, random_.Unit() * 6.3f, random_.Range(0.7f, 1.6f)) +
+      const float around = random_.Unit() * 6.3f;
+      const float slant = random_.Range(0.7f, 1.6f);
+      leaf.along = Normalized(Fork(heading, around, slant) +
                               Vec3{0, -0.30f, 0});
       // The blade faces the light, more or less.
       const Vec3 facing = Normalized(Vec3{random_.Signed() * 0.8f, 1, random_.Signed() * 0.8f});

@@ -116,7 +116,8 @@ Mesh MakeWeed(std::uint32_t seed, float height) {
   };
   for (int i = 0; i < 9; ++i) {
     const float turn = 2.4f * static_cast<float>(i) + random.Unit();
-    leaf({0, 0, 0}, {Cos(turn), random.Range(0.35f, 1.0f), Sin(turn)}, random.Range(0.12f, 0.22f));
+    const Vec3 along{Cos(turn), random.Range(0.35f, 1.0f), Sin(turn)};
+    leaf({0, 0, 0}, along, random.Range(0.12f, 0.22f));
   }
   const int stems = height > 0.3f ? 4 : 1;
   for (int k = 0; k < stems; ++k) {

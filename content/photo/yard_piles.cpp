@@ -62,8 +62,9 @@ Mesh MakeLogPile(float length) {
       const float radius = random.Range(0.058f, 0.098f);
       const float lot = random.Unit();
       const float kept = lot < 0.35f ? 1.0f : (lot < 0.75f ? 0.5f : 0.27f);
-      AddLog(mesh, {random.Signed() * 0.02f, y + random.Signed() * 0.018f, z + radius}, 0.36f,
-             radius, kept, random.Unit() * 6.3f, random);
+      const Vec3 centre{random.Signed() * 0.02f, y + random.Signed() * 0.018f, z + radius};
+      const float turn = random.Unit() * 6.3f;
+      AddLog(mesh, centre, 0.36f, radius, kept, turn, random);
       z += radius * (kept > 0.4f ? 1.86f : 1.45f);
     }
     y += 0.118f;

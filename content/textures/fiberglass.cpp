@@ -44,28 +44,30 @@ Layer MakeLayer(const Sheet& sheet, int layer, int count) {
     };
     const float sheen = dice.Between(0.55F, 1.0F);
     const StrokePoint middle = start(0.0F);
-    AddWalk(bodies, middle.x, middle.y,
-            {.length = length,
-             .heading = heading,
-             .bend = bend,
-             .radius = half,
-             .strength = sheen,
-             .taper = 0.03F,
-             .step = 24.0F},
-            dice.Word());
+    AddWalk(bodies, {.x = middle.x,
+                     .y = middle.y,
+                     .length = length,
+                     .heading = heading,
+                     .bend = bend,
+                     .radius = half,
+                     .strength = sheen,
+                     .taper = 0.03F,
+                     .step = 24.0F,
+                     .seed = dice.Word()});
     for (float side = -half; side <= half; side += dice.Between(1.3F, 2.6F)) {
       const StrokePoint from = start(side);
-      AddWalk(threads, from.x, from.y,
-              {.length = length * dice.Between(0.9F, 1.06F),
-               .heading = heading + dice.Around(0.0F, 0.008F),
-               .bend = bend + dice.Around(0.0F, 0.012F),
-               .radius = dice.Between(0.7F, 1.2F),
-               .strength = sheen * dice.Between(0.35F, 1.0F),
-               .taper = 0.05F,
-               .skip = 0.5F,
-               .skipPeriod = 110.0F,
-               .step = 24.0F},
-              dice.Word());
+      AddWalk(threads, {.x = from.x,
+                        .y = from.y,
+                        .length = length * dice.Between(0.9F, 1.06F),
+                        .heading = heading + dice.Around(0.0F, 0.008F),
+                        .bend = bend + dice.Around(0.0F, 0.012F),
+                        .radius = dice.Between(0.7F, 1.2F),
+                        .strength = sheen * dice.Between(0.35F, 1.0F),
+                        .taper = 0.05F,
+                        .skip = 0.5F,
+                        .skipPeriod = 110.0F,
+                        .step = 24.0F,
+                        .seed = dice.Word()});
     }
   }
   Layer made{Field(sheet), Field(sheet)};
@@ -101,18 +103,18 @@ Field Paint(const Sheet& sheet) {
   StrokeSet loose;
   for (int i = 0; i < FloorInt(area / 5000.0F); ++i) {
     Dice dice(seed + 30, i);
-    AddWalk(loose, dice.Unit() * static_cast<float>(sheet.width),
-            dice.Unit() * static_cast<float>(sheet.height),
-            {.length = dice.Between(90.0F, 330.0F),
-             .heading = dice.Between(0.0F, kTau),
-             .bend = dice.Around(0.0F, 0.25F),
-             .wobble = 0.1F,
-             .radius = dice.Between(0.4F, 0.9F),
-             .strength = dice.Between(0.3F, 1.0F),
-             .taper = 0.05F,
-             .skip = 0.6F,
-             .step = 12.0F},
-            dice.Word());
+    AddWalk(loose, {.x = dice.Unit() * static_cast<float>(sheet.width),
+                    .y = dice.Unit() * static_cast<float>(sheet.height),
+                    .length = dice.Between(90.0F, 330.0F),
+                    .heading = dice.Between(0.0F, kTau),
+                    .bend = dice.Around(0.0F, 0.25F),
+                    .wobble = 0.1F,
+                    .radius = dice.Between(0.4F, 0.9F),
+                    .strength = dice.Between(0.3F, 1.0F),
+                    .taper = 0.05F,
+                    .skip = 0.6F,
+                    .step = 12.0F,
+                    .seed = dice.Word()});
   }
   Field hair(sheet);
   loose.Draw(sheet, hair, {.profile = StrokeProfile::kRound});

@@ -26,17 +26,18 @@ Field Paint(const Sheet& sheet) {
   StrokeSet felt;
   for (int i = 0; i < FloorInt(w * h / 420.0F); ++i) {
     Dice dice(seed, i);
-    AddWalk(felt, dice.Unit() * w, dice.Unit() * h,
-            {.length = dice.Between(14.0F, 60.0F),
-             .heading = dice.Between(0.0F, kTau),
-             .bend = dice.Around(0.0F, 1.5F),
-             .wobble = 2.0F,
-             .wobblePeriod = 20.0F,
-             .radius = dice.Between(0.3F, 0.8F),
-             .strength = dice.Between(0.2F, 1.0F),
-             .taper = 0.2F,
-             .step = 5.0F},
-            dice.Word());
+    AddWalk(felt, {.x = dice.Unit() * w,
+                   .y = dice.Unit() * h,
+                   .length = dice.Between(14.0F, 60.0F),
+                   .heading = dice.Between(0.0F, kTau),
+                   .bend = dice.Around(0.0F, 1.5F),
+                   .wobble = 2.0F,
+                   .wobblePeriod = 20.0F,
+                   .radius = dice.Between(0.3F, 0.8F),
+                   .strength = dice.Between(0.2F, 1.0F),
+                   .taper = 0.2F,
+                   .step = 5.0F,
+                   .seed = dice.Word()});
   }
   Field fibre(sheet);
   felt.Draw(sheet, fibre, {.profile = StrokeProfile::kRound});

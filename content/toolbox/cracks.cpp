@@ -139,8 +139,10 @@ void AddCracks(StrokeSet& strokes, const Sheet& sheet, const CrackStyle& style,
     const float heading = dice.Between(0.0F, kTau);
     const float length = style.length * dice.Between(0.5F, 1.5F);
     // It opened in the middle and ran both ways.
+    const float back = heading + kPi + dice.Around(0.0F, 0.2F);
+    const float backLength = length * dice.Between(0.5F, 1.0F);
     grower.Start(x, y, heading, length);
-    grower.Start(x, y, heading + kPi + dice.Around(0.0F, 0.2F), length * dice.Between(0.5F, 1.0F));
+    grower.Start(x, y, back, backLength);
   }
   grower.GrowAll();
 }

@@ -26,7 +26,9 @@ namespace tarnwick::content {
 }
 
 // A stream of random numbers for work that is drawn in one fixed order, such
-// as the list of strokes of a recipe.
+// as the list of strokes of a recipe. Throw once in an expression or a call:
+// where two throws stand side by side, compilers choose which falls first. A
+// list in braces is safe.
 class Dice {
  public:
   explicit constexpr Dice(std::uint32_t seed) : state_(Hash(seed ^ 0xA511E9B3U)) {}

@@ -44,8 +44,10 @@ void AddScratches(StrokeSet& strokes, const Sheet& sheet, const ScratchStyle& st
     float aside = 0.0F;
     float back = 0.0F;
     for (int k = 0; k < lines; ++k) {
-      AddWalk(strokes, x - Sin(walk.heading) * aside + Cos(walk.heading) * back,
-              y + Cos(walk.heading) * aside + Sin(walk.heading) * back, walk, dice.Word());
+      walk.x = x - Sin(walk.heading) * aside + Cos(walk.heading) * back;
+      walk.y = y + Cos(walk.heading) * aside + Sin(walk.heading) * back;
+      walk.seed = dice.Word();
+      AddWalk(strokes, walk);
       aside += dice.Between(3.0F, 10.0F);
       back = dice.Between(0.0F, 0.3F) * walk.length;
       walk.radius *= dice.Between(0.5F, 0.9F);
@@ -81,8 +83,10 @@ void AddScuffs(StrokeSet& strokes, const Sheet& sheet, const ScuffStyle& style,
       walk.taper = 0.4F;
       walk.skip = 1.0F;
       walk.skipPeriod = 25.0F;
-      AddWalk(strokes, cx + Cos(heading) * u - Sin(heading) * v,
-              cy + Sin(heading) * u + Cos(heading) * v, walk, dice.Word());
+      walk.x = cx + Cos(heading) * u - Sin(heading) * v;
+      walk.y = cy + Sin(heading) * u + Cos(heading) * v;
+      walk.seed = dice.Word();
+      AddWalk(strokes, walk);
     }
   }
 }

@@ -83,7 +83,10 @@ void StrokeSet::Draw(const Sheet& sheet, Field& target, const StrokeLook& look) 
   });
 }
 
-void AddWalk(StrokeSet& strokes, float x, float y, const Walk& walk, std::uint32_t seed) {
+void AddWalk(StrokeSet& strokes, const Walk& walk) {
+  const std::uint32_t seed = walk.seed;
+  float x = walk.x;
+  float y = walk.y;
   const int steps = std::max(1, FloorInt(walk.length / walk.step + 0.5F));
   std::vector<StrokePoint> points;
   points.reserve(static_cast<std::size_t>(steps) + 1);

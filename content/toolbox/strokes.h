@@ -50,12 +50,15 @@ class StrokeSet {
   std::vector<Segment> segments_;
 };
 
-// A line that wanders: a hair, a fibre, the slip of a nail.
+// A line that wanders: a hair, a fibre, the slip of a nail. Place and seed are
+// fields too, so that dice thrown for them fall in the order of the fields:
+// arguments of a call are worked out in an order that compilers choose.
 struct Walk {
-  float length = 200.0F;  // pixels
-  float heading = 0.0F;   // radians, 0 to the right, clockwise
-  float bend = 0.0F;      // steady turn, radians for each 100 pixels
-  float wobble = 0.0F;    // uneven turn on top, the same unit
+  float x = 0.0F, y = 0.0F;  // where it starts
+  float length = 200.0F;     // pixels
+  float heading = 0.0F;      // radians, 0 to the right, clockwise
+  float bend = 0.0F;         // steady turn, radians for each 100 pixels
+  float wobble = 0.0F;       // uneven turn on top, the same unit
   float wobblePeriod = 80.0F;
   float radius = 1.0F;    // at full pressure
   float strength = 1.0F;  // at full pressure
@@ -63,9 +66,9 @@ struct Walk {
   float skip = 0.0F;      // 0 even pressure; 1 and above: it lifts off in places
   float skipPeriod = 40.0F;
   float step = 8.0F;  // pixels from point to point
+  std::uint32_t seed = 1;
 };
 
-// Adds the walk that starts at (x, y), random by `seed`.
-void AddWalk(StrokeSet& strokes, float x, float y, const Walk& walk, std::uint32_t seed);
+void AddWalk(StrokeSet& strokes, const Walk& walk);
 
 }  // namespace tarnwick::content
