@@ -102,10 +102,18 @@ void Warn(const AgeRun& run, const fs::path& input, const PictureNotes& notes) {
   for (const std::string& note : notes) run.console.Warning(input.string() + ": " + note);
 }
 
+// With --strict the last one is thrown, and so all are told.
 void TellAlerts(const AgeRun& run, const fs::path& input, const AlertList& alerts) {
-  for (const std::string& text : alerts.Texts()) {
-    if (run.options.strict) FailInput(input.string(), text, Advice(text, run));
-    run.console.Warning(input.string() + ": " + text + " (" + Advice(text, run) + ")");
+  const std::vector<std::string>& texts = alerts.Texts();
+  for (const std::string& text : texts) {
+    const std::string line = input.string() + ": " + text + " (" + Advice(text, run) + ")";
+    if (!run.options.strict) {
+      run.console.Warning(line);
+    } else if (&text != &texts.back()) {
+      run.console.Error(line);
+    } else {
+      FailInput(input.string(), text, Advice(text, run));
+    }
   }
 }
 

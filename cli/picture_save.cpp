@@ -25,6 +25,9 @@ vips::VOption* WritingOptions(const PictureFormat& format, const VImage& image, 
   } else if (name == "png") {
     // For photographs this is both smaller and faster than no filter at level 6.
     options->set("compression", 3)->set("filter", VIPS_FOREIGN_PNG_FILTER_PAETH);
+  } else if (name == "ppm" || name == "pnm" || name == "pgm") {
+    // Else the library writes a comment with the time of day.
+    options->set("strip", true);
   } else if (name == "webp") {
     options->set("smart_subsample", quality >= kFullColorQuality);
   } else if (name.starts_with("tif")) {
