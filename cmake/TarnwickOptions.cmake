@@ -4,6 +4,7 @@
 # compiler, so the floating-point model is pinned here and nowhere else.
 
 option(TARNWICK_TESTS "Build the tests" ON)
+option(TARNWICK_CONTENT "Paint the data folder with the rest" ON)
 option(TARNWICK_BENCH "Build the benchmarks" OFF)
 option(TARNWICK_FUZZ "Build the fuzzers (clang only)" OFF)
 set(TARNWICK_SANITIZE "" CACHE STRING "Sanitizers, as for -fsanitize=")
