@@ -6,8 +6,8 @@ namespace tarnwick {
 // One row of the background composite, `width` pixels of 4 bytes.
 struct BackgroundRow {
   const std::uint8_t* source;
-  const std::uint8_t* background;
-  const std::uint8_t* selection;  // null: none
+  const std::uint8_t* background;  // the toned ground
+  const std::uint8_t* selection;   // null: none
   std::uint8_t* output;
   int width;
   bool fill;  // the result is opaque

@@ -1,6 +1,5 @@
 #include <algorithm>
 #include <array>
-#include <cstring>
 
 #include "base/truncate.h"
 #include "engine/background_render.h"
@@ -8,8 +7,6 @@
 
 namespace tarnwick {
 namespace {
-
-using Pixel = std::array<std::uint8_t, 4>;
 
 struct Area {
   const RasterImage& texture;
@@ -81,7 +78,7 @@ void Enhance(const EnhancedRange& range, float t, HlsColor& color) {
   }
 }
 
-Pixel TonedPixel(const ToneLook& look, float t) {
+ToneTable::value_type TonedPixel(const ToneLook& look, float t) {
   const bool dark = t <= 0.65F;
   const float w = dark ? (0.65F - t) * 1.5384616F : (t - 0.65F) * 2.857143F;
   const LayerColor& outer = dark ? look.layer.shadowColor : look.layer.highlightColor;
@@ -103,19 +100,10 @@ Pixel TonedPixel(const ToneLook& look, float t) {
           static_cast<std::uint8_t>(c[2]), 255};
 }
 
-// A tone depends on its grey alone.
-std::array<Pixel, 256> ToneTable(const ToneLook& look) {
-  std::array<Pixel, 256> table{};
-  for (std::size_t i = 0; i < table.size(); ++i) {
-    table[i] = TonedPixel(look, ToneOf(look.layer, i));
-  }
-  return table;
-}
-
 }  // namespace
 
 void RenderBackgroundTone(EffectLayer& layer, RenderState& state, const EffectSettings& settings) {
-  if (!layer.toneDirty || layer.working == nullptr || !state.backgroundPixels) return;
+  if (!layer.toneDirty || layer.working == nullptr) return;
   const RasterImage& texture = *layer.working;
   if (texture.PeekInterior() == nullptr) return;
   const Area area{texture, std::min(texture.Width(), state.renderWidth),
@@ -127,16 +115,12 @@ void RenderBackgroundTone(EffectLayer& layer, RenderState& state, const EffectSe
                 (settings.BackgroundEnhancedMode & 0xFF) != 0,
                 {}};
   if (look.enhanced) look.range = RangeOf(layer, area);
-  const std::array<Pixel, 256> table = ToneTable(look);
-
-  ForRowsReporting(state.pool, &state.progress, area.height, [&](int first, int last) {
-    for (int y = first; y < last; ++y) {
-      const std::uint8_t* const in = texture.PeekInterior() + y * texture.RowBytes();
-      std::uint8_t* const out =
-          state.backgroundPixels.Data() + static_cast<std::ptrdiff_t>(y) * state.renderRowBytes;
-      for (int x = 0; x < area.width; ++x) std::memcpy(out + 4 * x, table[in[x]].data(), 4);
-    }
-  });
+  // A tone depends on its grey alone.
+  ToneTable tones{};
+  for (std::size_t i = 0; i < tones.size(); ++i) tones[i] = TonedPixel(look, ToneOf(layer, i));
+  layer.tones = tones;
+  layer.tonedWidth = area.width;
+  layer.tonedHeight = area.height;
   layer.toneDirty = false;
 }
 

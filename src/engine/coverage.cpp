@@ -62,20 +62,31 @@ std::array<std::uint8_t, 256> ThresholdTable(int keep) {
   return table;
 }
 
-// Every byte of the noise through the table, and the soft rim. The map keeps
-// what it holds without memory.
+// A final render reads the interior alone, which a rim of two pixels in a margin
+// of three never reaches: one value stands for the whole map. A preview's
+// texture may be a pixel larger than the map and reads its margin.
+void MakeFlat(EffectLayer& layer, std::uint8_t value) {
+  layer.coverageMap->Release();
+  layer.flatCoverage = value;
+}
+
+// Every byte of the noise through the table, and the soft rim. Without memory
+// there is no map.
 void Threshold(EffectLayer& layer, RenderState& state, int keep) {
   if (layer.coverageMap == nullptr || layer.noiseMap == nullptr) return;
   const std::array<std::uint8_t, 256> table = ThresholdTable(keep);
-  std::uint8_t* const out = layer.coverageMap->Pixels();
-  if (out == nullptr) return;
-  const std::size_t bytes = layer.coverageMap->store.bytes;
   const bool flat = std::all_of(table.begin(), table.end(),
                                 [&](std::uint8_t entry) { return entry == table[0]; });
+  layer.flatCoverage = -1;
+  if (flat && !state.previewMode) return MakeFlat(layer, table[0]);
+  std::uint8_t* const out = layer.coverageMap->Pixels();
+  if (out == nullptr || (!flat && !EnsureNoise(layer, state))) {
+    layer.coverageMap = nullptr;
+    return;
+  }
   if (flat) {
-    std::memset(out, table[0], bytes);
+    std::memset(out, table[0], layer.coverageMap->store.bytes);
   } else {
-    if (!EnsureNoise(layer, state)) return;
     const std::uint8_t* const noise = layer.noiseMap->PeekPixels();
     const int stride = static_cast<int>(layer.coverageMap->RowBytes());
     ForRows(state.pool, 0, layer.coverageMap->StorageHeight(), [&](int first, int last) {
@@ -95,7 +106,10 @@ void FillWithFullMap(EffectLayer& layer, const RenderState& state) {
   layer.activeCoverage = nullptr;
   if (layer.texture != nullptr) {
     layer.coverageMap = MakeGrayImage(CoverageBounds(layer, state), kMargin);
-    if (!FillImage(*layer.coverageMap, kWhiteFill, state.colorServices)) {
+    layer.flatCoverage = -1;
+    if (!state.previewMode) {
+      MakeFlat(layer, 255);
+    } else if (!FillImage(*layer.coverageMap, kWhiteFill, state.colorServices)) {
       layer.coverageMap = nullptr;
     }
   }
@@ -146,13 +160,9 @@ void BuildCoverage(EffectLayer& layer, RenderState& state) {
   layer.activeCoverage = nullptr;
   layer.noiseMap = MakeGrayImage(bounds, kMargin);
   layer.coverageMap = MakeGrayImage(bounds, kMargin);
+  layer.flatCoverage = -1;
   layer.noiseWindow = WindowOf(layer, state);
   layer.noisePending = true;
-  if (layer.coverageMap->Pixels() == nullptr) {
-    layer.noiseMap = nullptr;
-    layer.coverageMap = nullptr;
-    return;
-  }
   // The complement makes the value count as changed.
   const int coverage = layer.coverage;
   layer.coverage = ~coverage;

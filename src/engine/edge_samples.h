@@ -4,27 +4,30 @@
 
 namespace tarnwick {
 
-// Takes `edgeSamples` if the layer has none; false without memory.
-bool AllocateEdgeSamples(EffectLayer& layer, const RenderState& state);
-
-// Where the samples of a rendered row come from.
+// Brings a wash's edge map to the render: fills `edgeSamples`, which keep what
+// they hold where no stage puts anything.
 class EdgeSampler {
  public:
-  // A layer without an edge map or without samples is left alone.
-  EdgeSampler(EffectLayer& layer, const RenderState& state);
-  explicit operator bool() const { return edge_ != nullptr && samples_ != nullptr; }
+  // For a stage that covers `width` x `height` of the render. Takes the samples'
+  // memory if the layer has none. A map that is whole needs none, if the stage
+  // covers everything and no later pass asks for the samples.
+  // False, and nothing is put, for an inactive sampler: no map, no memory, or
+  // nothing to do.
+  EdgeSampler(EffectLayer& layer, const RenderState& state, int width, int height);
+  EdgeSampler() = default;
+  explicit operator bool() const { return samples_ != nullptr; }
 
-  // Sample of rendered column x for the rendered row `row` (with the origin
-  // already in it), at the document pixel below it. Beyond the picture the last
-  // row and column repeat.
-  [[nodiscard]] std::uint8_t At(int x, int row) const;
+  // The sample at column x for the rendered row `row`, with the origin already
+  // in it, goes to (x, y). Beyond the picture the last row and column repeat.
   void Put(int x, int y, int row) { samples_[y * width_ + x] = At(x, row); }
   // The first `width` samples of rendered row y from the document row below it.
   void CopyRow(int y, int width);
 
  private:
-  const RenderState& state_;
-  const std::uint8_t* edge_ = nullptr;
+  [[nodiscard]] std::uint8_t At(int x, int row) const;
+
+  const RenderState* state_ = nullptr;
+  const std::uint8_t* edge_ = nullptr;  // null: 255 everywhere
   std::uint8_t* samples_ = nullptr;
   std::ptrdiff_t stride_ = 0;
   int lastColumn_ = 0;

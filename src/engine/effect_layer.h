@@ -22,6 +22,9 @@ struct NoiseWindow {
   double firstY = 0;
 };
 
+// Red, green, blue, alpha of each grey of a background's texture.
+using ToneTable = std::array<std::array<std::uint8_t, 4>, 256>;
+
 // All that one effect needs between renders: its texture, its masks, its tone
 // table and what of these is stale. A plain record; a kind uses the fields that
 // are marked with its letter (W wash, B background, S surface), all kinds those
@@ -45,7 +48,7 @@ struct EffectLayer {
   ImagePtr texture;         // at document scale, inverted, flipped and turned
   ImagePtr working;         // what the stages read; plane 0
   ImagePtr noiseMap;        // W: fractal noise, margin 3; see EnsureNoise
-  ImagePtr coverageMap;     // W: thresholded and softened noise, margin 3
+  ImagePtr coverageMap;     // W: thresholded and softened noise, margin 3; see flatCoverage
   ImagePtr activeCoverage;  // W: the map that the wash reads
   ImagePtr selectionMap;    // W: selection or transparency, document size, margin 1
   ImagePtr edgeMap;         // W: the same, eaten back and blurred
@@ -57,6 +60,17 @@ struct EffectLayer {
   std::int32_t maxDistanceSquared = 0;  // W; with distanceField
   NoiseWindow noiseWindow;              // W
   bool noisePending = false;            // W: noiseMap is not filled yet
+  // Maps that are the same everywhere need no memory. W: the one value of the
+  // interior of coverageMap, or -1; selectionMap, edgeMap and edgeSamples that
+  // are 255 throughout and have no pixels.
+  std::int32_t flatCoverage = -1;
+  bool selectionWhole = false;
+  bool edgeWhole = false;
+  bool samplesWhole = false;
+  // B: the tones of the last tone pass, and the part of the render they cover.
+  ToneTable tones{};
+  std::int32_t tonedWidth = 0;
+  std::int32_t tonedHeight = 0;
 
   double effectiveScale = 0;             // from the file's size to the document
   double scaleSetting = 0;               // the slider, 0..200
@@ -90,7 +104,7 @@ struct EffectLayer {
   bool textureDirty = true;   // `working` must be rebuilt
   bool coverageDirty = true;  // W: noise and coverage must be rebuilt
   bool edgeDirty = true;      // W: edgeMap must be rebuilt
-  bool toneDirty = false;     // B: backgroundPixels must be rebuilt
+  bool toneDirty = false;     // B: `tones` must be rebuilt
 
   float highlightLevel = 0;     // S, B
   float midtoneLevel = 0;       // S, B

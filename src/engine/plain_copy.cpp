@@ -17,18 +17,18 @@ std::ptrdiff_t RowStart(const RenderState& state, int y) {
 void CopySourceToOutput(EffectLayers& layers, RenderState& state, const EffectSettings& settings) {
   if (!state.sourcePixels || !state.outputPixels) return;
   const bool hasWash = settings.WashUse != 0 || state.deferWash;
-  EdgeSampler first(layers.washes[0], state);
-  EdgeSampler second(layers.washes[1], state);
-  const bool takeFirst = hasWash && layers.washes[0].texture != nullptr;
-  const bool takeSecond =
-      hasWash && settings.SecondWashExists != 0 && layers.washes[1].texture != nullptr;
+  EdgeSampler edges[2];
+  for (std::size_t i = 0; i < 2; ++i) {
+    EffectLayer& wash = layers.washes[i];
+    if (!hasWash || wash.texture == nullptr || (i == 1 && settings.SecondWashExists == 0)) continue;
+    edges[i] = EdgeSampler(wash, state, state.renderWidth, state.renderHeight);
+  }
   ForRowsReporting(state.pool, &state.progress, state.renderHeight, [&](int top, int bottom) {
     for (int y = top; y < bottom; ++y) {
       std::memcpy(state.outputPixels.Data() + RowStart(state, y),
                   state.sourcePixels.Data() + RowStart(state, y),
                   static_cast<std::size_t>(state.renderRowBytes));
-      if (takeFirst) first.CopyRow(y, state.renderWidth);
-      if (takeSecond) second.CopyRow(y, state.renderWidth);
+      for (EdgeSampler& edge : edges) edge.CopyRow(y, state.renderWidth);
     }
   });
 }

@@ -4,12 +4,7 @@
 
 namespace tarnwick {
 
-void AllocateBackgroundBuffer(RenderState& state) {
-  (void)state.backgroundPixels.Allocate(state.PixelCount() * 4);
-}
-
 void AllocateSurfaceBuffers(RenderState& state) {
-  (void)state.depthMap.Allocate(state.PixelCount());
   state.surfaceStale = true;
   if (!state.previewMode || !state.sourcePixels) return;
   if (state.surfaceResult.Allocate(state.PixelCount() * 4)) {

@@ -3,12 +3,9 @@
 
 namespace tarnwick {
 
-// Anew, at the size of the render. A buffer without memory leaves its stage out.
-// They run whenever the window's size changes.
-void AllocateBackgroundBuffer(RenderState& state);
-
-// Depth map and, in a preview, the surface's own result, which starts as a copy
-// of the source: what no texture covers shows the picture. Sets surfaceStale.
+// For a render whose size has changed: sets surfaceStale and, in a preview, makes
+// the surface's own result anew. It starts as a copy of the source: what no
+// texture covers shows the picture. Without memory the surface is left out.
 void AllocateSurfaceBuffers(RenderState& state);
 
 }  // namespace tarnwick

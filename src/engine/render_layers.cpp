@@ -31,7 +31,6 @@ void CreateLayers(EffectLayers& layers, RenderState& state, EffectSettings& sett
     (void)ConfigureWash(layers.washes[1], state, settings, session, true);
   }
   (void)ConfigureBackground(layers.background, state, settings);
-  AllocateBackgroundBuffer(state);
   (void)ConfigureSurface(layers.surfaces[0], state, settings, session, false);
   if (settings.SecondSurfaceExists != 0) {
     (void)ConfigureSurface(layers.surfaces[1], state, settings, session, true);
@@ -48,10 +47,8 @@ void DestroyLayers(EffectLayers& layers, RenderState& state) {
   }
   for (EffectLayer& surface : layers.surfaces) surface = EffectLayer{};
   layers.background = EffectLayer{};
-  state.backgroundPixels.Free();
   state.outputPixels.Free();
   state.sourcePixels.Free();
-  state.depthMap.Free();
   state.surfaceResult.Free();
 }
 

@@ -5,8 +5,8 @@
 
 namespace tarnwick {
 
-// Configures the layers that take part, allocates the background and surface
-// buffers, and derives WashUse, SurfaceUse and BackgroundUse from the texture
+// Configures the layers that take part, allocates the surface's
+// buffer, and derives WashUse, SurfaceUse and BackgroundUse from the texture
 // names: a group is on if one of its textures is not "No_Texture.twk".
 void CreateLayers(EffectLayers& layers, RenderState& state, EffectSettings& settings,
                   const SettingsSession& session);

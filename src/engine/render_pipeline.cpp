@@ -3,7 +3,6 @@
 #include <cstring>
 
 #include "engine/background_render.h"
-#include "engine/edge_samples.h"
 #include "engine/plain_copy.h"
 #include "engine/surface_render.h"
 #include "engine/wash_edge.h"
@@ -46,7 +45,6 @@ void PrepareWashEdges(const Run& run) {
   const int washes = run.settings.SecondWashExists != 0 ? 2 : 1;
   for (int i = 0; i < washes; ++i) {
     EffectLayer& wash = run.layers.washes[static_cast<std::size_t>(i)];
-    (void)AllocateEdgeSamples(wash, run.state);
     if (wash.edgeDirty) BuildEdgeMap(wash, run.state);
   }
 }
@@ -80,10 +78,11 @@ void RunSurfaces(const Run& run) {
     CopySourceToOutput(run.layers, state, run.settings);
     return;
   }
-  BuildDepthMap(run.layers, state, run.settings, first, second);
+  state.surfaceStale = true;
   ResetOutputAlpha(state);
   state.progress.budget = 10;
-  ComposeSurface(run.layers, state, run.settings);
+  ComposeSurface(run.layers, state, run.settings,
+                 ReliefHeights(run.layers, state, run.settings, first, second));
   run.Reach(40);
   MergeSurfaceResult(state);
 }
@@ -117,7 +116,7 @@ void RunBackground(const Run& run) {
   RenderBackgroundTone(background, state, run.settings);
   run.Reach(90);
   state.progress.budget = 100 - state.progress.base;
-  ComposeBackground(state, run.settings, run.view);
+  ComposeBackground(background, state, run.settings, run.view);
 }
 
 }  // namespace

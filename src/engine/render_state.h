@@ -38,14 +38,12 @@ struct RenderState {
   bool isCmyk = false;
   ViewMode view = ViewMode::kComposite;
 
-  PageBuffer<std::uint8_t> sourcePixels;      // the picture, unaltered
-  PageBuffer<std::uint8_t> outputPixels;      // where the render lands
-  PageBuffer<std::uint8_t> backgroundPixels;  // the toned background
+  PageBuffer<std::uint8_t> sourcePixels;  // the picture, unaltered
+  PageBuffer<std::uint8_t> outputPixels;  // where the render lands
   // The surfaced picture; a buffer of its own in a preview only. See
   // SurfaceResult().
   PageBuffer<std::uint8_t> surfaceResult;
   PageBuffer<std::uint8_t> surfaceSave;  // pure surface; with keepSurfaceSave only
-  PageBuffer<std::uint8_t> depthMap;     // one byte a pixel, renderWidth a row
 
   // The host's selection at render size.
   const std::uint8_t* selection = nullptr;

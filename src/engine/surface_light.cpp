@@ -47,24 +47,20 @@ SurfaceLight LightOf(const EffectSettings& settings, float viewScale) {
   return light;
 }
 
-void LightRow(const SurfaceLight& light, const std::uint8_t* depth, std::ptrdiff_t stride,
-              int width, int height, int y, float* __restrict out) {
-  const std::uint8_t* const row = depth + y * stride;
-  // The row whose difference to this one counts, and which way round.
-  const bool lastRow = y == height - 1;
-  const std::uint8_t* const other = lastRow ? (height > 1 ? row - stride : row) : row + stride;
-  const int down = lastRow ? -1 : 1;
+void LightRow(const SurfaceLight& light, const std::uint8_t* row, const std::uint8_t* next,
+              bool nextIsAbove, int width, float* __restrict out) {
+  const int down = nextIsAbove ? -1 : 1;
+  const auto lit = [&](int dx, int dy) {
+    return (static_cast<float>(dy) * light.y + static_cast<float>(dx) * light.x) * light.slope +
+           light.z;
+  };
   for (int x = 0; x + 1 < width; ++x) {
     const int c = row[x];
-    const auto dx = static_cast<float>(row[x + 1] - c);
-    const auto dy = static_cast<float>(down * (other[x] - c));
-    out[x] = (dy * light.y + dx * light.x) * light.slope + light.z;
+    out[x] = lit(row[x + 1] - c, down * (next[x] - c));
   }
   const int x = width - 1;
   const int c = row[x];
-  const auto dx = static_cast<float>(width > 1 ? c - row[x - 1] : 0);
-  const auto dy = static_cast<float>(down * (other[x] - c));
-  out[x] = (dy * light.y + dx * light.x) * light.slope + light.z;
+  out[x] = lit(width > 1 ? c - row[x - 1] : 0, down * (next[x] - c));
 }
 
 }  // namespace tarnwick

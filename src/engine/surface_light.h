@@ -19,12 +19,12 @@ struct SurfaceLight {
 
 [[nodiscard]] SurfaceLight LightOf(const EffectSettings& settings, float viewScale);
 
-// The brightness of `width` pixels of row y: 0..1 for most, not limited here. A
-// flat area gets light.z. Heights enter as first differences to the right and
-// below; the last column and row look back instead, and a map of one column or
-// row has no difference in that direction.
-// `depth` is the map, `stride` bytes a row, `height` rows.
-void LightRow(const SurfaceLight& light, const std::uint8_t* depth, std::ptrdiff_t stride,
-              int width, int height, int y, float* out);
+// The brightness of a row of `width` heights: 0..1 for most, not limited here. A
+// flat area gets light.z. Heights enter as first differences to the right, at
+// the last column to the left, and to the row `next`, which lies below, or above
+// if `nextIsAbove` (for the last row). A single column has no difference, and a
+// single row passes itself.
+void LightRow(const SurfaceLight& light, const std::uint8_t* row, const std::uint8_t* next,
+              bool nextIsAbove, int width, float* out);
 
 }  // namespace tarnwick

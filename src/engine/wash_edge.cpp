@@ -19,10 +19,18 @@ float Depth(const EffectLayer& layer) {
   return static_cast<float>(std::sqrt(static_cast<double>(layer.maxDistanceSquared))) + 1.0F;
 }
 
+// Gives a whole selection its white samples and its frame; false without memory.
+bool EnsureSelectionMap(EffectLayer& layer) {
+  if (layer.selectionMap == nullptr) return false;
+  if (layer.selectionMap->PeekPixels() != nullptr) return true;
+  if (!FillImage(*layer.selectionMap, kWhiteFill)) return false;
+  return ClearFrame(*layer.selectionMap, kMargin);
+}
+
 // False where there is nothing to measure.
 bool EnsureDistanceField(EffectLayer& layer) {
   if (layer.distanceField) return true;
-  if (layer.selectionMap == nullptr) return false;
+  if (!EnsureSelectionMap(layer)) return false;
   return BuildDistanceField(*layer.selectionMap, layer.distanceField, layer.maxDistanceSquared);
 }
 
@@ -69,21 +77,24 @@ void BuildSelectionMap(EffectLayer& layer, RenderState& state) {
   layer.maxDistanceSquared = 0;
   layer.edgeDirty = true;
   layer.selectionMap = MakeGrayImage(layer.documentBounds, kMargin);
+  layer.selectionWhole =
+      state.selectionPlane == nullptr || !(state.hasSelection || state.HasTransparency());
+  if (layer.selectionWhole) return;
   if (layer.selectionMap->Pixels() == nullptr) {
     layer.selectionMap = nullptr;
     return;
   }
-  if (state.selectionPlane != nullptr && (state.hasSelection || state.HasTransparency())) {
-    CopySelectionPlane(*layer.selectionMap, state);
-  } else {
-    (void)FillImage(*layer.selectionMap, kWhiteFill, state.colorServices);
-  }
+  CopySelectionPlane(*layer.selectionMap, state);
   ClearFrame(*layer.selectionMap, kMargin);
 }
 
 void BuildEdgeMap(EffectLayer& layer, RenderState& state) {
   if (layer.kind != LayerKind::kWash || layer.texture == nullptr || !layer.edgeDirty) return;
   layer.edgeDirty = false;
+  layer.edgeMap = nullptr;
+  layer.edgeWhole =
+      layer.selectionWhole && layer.edgeDistanceSquared == 0 && layer.edgeBlurRadius == 0;
+  if (layer.edgeWhole) return;
   layer.edgeMap = MakeGrayImage(layer.documentBounds, kMargin);
   std::uint8_t* const out = layer.edgeMap->Pixels();
   if (out == nullptr) {
@@ -92,7 +103,7 @@ void BuildEdgeMap(EffectLayer& layer, RenderState& state) {
   }
   // A threshold of 0 stops nothing, whatever the distances are.
   const bool measured = layer.edgeDistanceSquared == 0 || EnsureDistanceField(layer);
-  if (layer.selectionMap == nullptr || !measured) {
+  if (!measured || !EnsureSelectionMap(layer)) {
     (void)FillImage(*layer.edgeMap, kWhiteFill, state.colorServices);
   } else {
     const std::uint8_t* const selection = layer.selectionMap->PeekPixels();

@@ -21,7 +21,8 @@ void SetEdgeSoftness(EffectLayer& layer, int value);
 void BuildSelectionMap(EffectLayer& layer, RenderState& state);
 
 // Rebuilds `edgeMap` if edgeDirty is set and the layer has a texture. Any
-// selection above 0 counts as whole. Without memory edgeMap is null.
+// selection above 0 counts as whole. A map that is white throughout has no
+// pixels, but edgeWhole; without memory edgeMap is null.
 void BuildEdgeMap(EffectLayer& layer, RenderState& state);
 
 }  // namespace tarnwick

@@ -20,7 +20,10 @@ void RenderWash(EffectLayer& layer, RenderState& state) {
   const ProgressShare whole(state.progress, state.progress.base, state.progress.budget);
   RefreshWash(layer, state);
   const WashInputs inputs = InputsOf(layer, state);
-  if (!inputs.Complete() || !state.outputPixels) return;
+  if (inputs.texture.first == nullptr || inputs.coverage.first == nullptr ||
+      inputs.edge.first == nullptr || !state.outputPixels) {
+    return;
+  }
 
   WashLook look;
   look.intensity = layer.intensity;
@@ -37,9 +40,9 @@ void RenderWash(EffectLayer& layer, RenderState& state) {
     for (int y = first; y < last; ++y) {
       const std::ptrdiff_t pixels = static_cast<std::ptrdiff_t>(y) * state.renderRowBytes;
       WashRow row;
-      row.texture = inputs.TextureRow(y);
-      row.coverage = inputs.CoverageRow(y);
-      row.edge = inputs.edge + static_cast<std::ptrdiff_t>(y) * state.renderWidth;
+      row.texture = inputs.texture.Row(y);
+      row.coverage = inputs.coverage.Row(y);
+      row.edge = inputs.edge.Row(y);
       if (state.hasSelection) row.selection = state.selection + y * state.selectionRowBytes;
       if (save != nullptr) row.save = save + pixels;
       row.output = state.outputPixels.Data() + pixels;

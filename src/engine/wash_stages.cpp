@@ -32,19 +32,28 @@ void RefreshWash(EffectLayer& layer, RenderState& state) {
 
 WashInputs InputsOf(const EffectLayer& layer, const RenderState& state) {
   WashInputs inputs;
-  const auto usable = [](const ImagePtr& image) {
-    return image != nullptr && image->PeekInterior() != nullptr ? image.get() : nullptr;
-  };
-  inputs.texture = usable(layer.working);
-  inputs.coverage = usable(layer.activeCoverage);
-  if (layer.edgeSamples.Size() >= state.PixelCount()) inputs.edge = layer.edgeSamples.Data();
-  if (inputs.texture == nullptr || inputs.coverage == nullptr) return inputs;
+  if (layer.working == nullptr || layer.activeCoverage == nullptr) return inputs;
+  const RasterImage& texture = *layer.working;
+  const RasterImage& coverage = *layer.activeCoverage;
   // The map has the texture's size, but for a pixel that the reduction rounds up:
   // there its margin is read, as it always was.
-  const int spareX = inputs.coverage->Width() + inputs.coverage->margin;
-  const int spareY = inputs.coverage->Height() + inputs.coverage->margin;
-  inputs.width = std::min({inputs.texture->Width(), state.renderWidth, spareX});
-  inputs.height = std::min({inputs.texture->Height(), state.renderHeight, spareY});
+  inputs.width = std::min({texture.Width(), state.renderWidth, coverage.Width() + coverage.margin});
+  inputs.height =
+      std::min({texture.Height(), state.renderHeight, coverage.Height() + coverage.margin});
+  inputs.texture = {texture.PeekInterior(), texture.RowBytes()};
+  const auto width = static_cast<std::size_t>(std::max(inputs.width, 1));
+  if (layer.flatCoverage >= 0) {
+    inputs.flatCoverage.assign(width, static_cast<std::uint8_t>(layer.flatCoverage));
+    inputs.coverage = {inputs.flatCoverage.data(), 0};
+  } else {
+    inputs.coverage = {coverage.PeekInterior(), coverage.RowBytes()};
+  }
+  if (layer.samplesWhole) {
+    inputs.wholeEdge.assign(width, 255);
+    inputs.edge = {inputs.wholeEdge.data(), 0};
+  } else if (layer.edgeSamples.Size() >= state.PixelCount()) {
+    inputs.edge = {layer.edgeSamples.Data(), state.renderWidth};
+  }
   return inputs;
 }
 

@@ -1,4 +1,6 @@
 #pragma once
+#include <vector>
+
 #include "engine/effect_layer.h"
 #include "engine/render_state.h"
 
@@ -11,22 +13,22 @@ namespace tarnwick {
 // share, for the composite.
 void RefreshWash(EffectLayer& layer, RenderState& state);
 
-// The images that a composite reads; null members mean that it cannot run.
+// Rows of samples; a stride of 0 repeats one row.
+struct SampleRows {
+  const std::uint8_t* first = nullptr;  // null: cannot be had
+  std::ptrdiff_t stride = 0;
+  [[nodiscard]] const std::uint8_t* Row(int y) const { return first + y * stride; }
+};
+
+// What a composite reads, `width` x `height` samples of each.
 struct WashInputs {
-  const RasterImage* texture = nullptr;
-  const RasterImage* coverage = nullptr;
-  const std::uint8_t* edge = nullptr;  // renderWidth samples a row
-  int width = 0;                       // what both texture and coverage cover
+  SampleRows texture;
+  SampleRows coverage;
+  SampleRows edge;
+  int width = 0;
   int height = 0;
-  [[nodiscard]] bool Complete() const {
-    return texture != nullptr && coverage != nullptr && edge != nullptr && width > 0 && height > 0;
-  }
-  [[nodiscard]] const std::uint8_t* TextureRow(int y) const {
-    return texture->PeekInterior() + y * texture->RowBytes();
-  }
-  [[nodiscard]] const std::uint8_t* CoverageRow(int y) const {
-    return coverage->PeekInterior() + y * coverage->RowBytes();
-  }
+  std::vector<std::uint8_t> flatCoverage;  // the one row of a flat map
+  std::vector<std::uint8_t> wholeEdge;
 };
 [[nodiscard]] WashInputs InputsOf(const EffectLayer& layer, const RenderState& state);
 

@@ -10,17 +10,17 @@ namespace {
 // table, so a strength above 100 takes its curve here.
 float MaskStrength(const EffectLayer& layer, const RenderState& state, const WashInputs& inputs,
                    bool useEdge, int x, int y) {
-  const float m = static_cast<float>(inputs.CoverageRow(y)[x]) / 255.0F;
+  const float m = static_cast<float>(inputs.coverage.Row(y)[x]) / 255.0F;
   float e = 255.0F;
   if (useEdge) {
-    e = inputs.edge[static_cast<std::ptrdiff_t>(y) * state.renderWidth + x];
+    e = inputs.edge.Row(y)[x];
     if (layer.inside == 0) e = 255.0F - e;
   }
   float a = e / 255.0F * m;
   if (state.hasSelection) {
     a = a * static_cast<float>(state.selection[y * state.selectionRowBytes + x]) / 255.0F;
   }
-  const float b = a * static_cast<float>(inputs.TextureRow(y)[x]) + (1.0F - a) * 255.0F;
+  const float b = a * static_cast<float>(inputs.texture.Row(y)[x]) + (1.0F - a) * 255.0F;
   return layer.intensityTable[static_cast<std::uint8_t>(static_cast<int>(b))];
 }
 
@@ -47,8 +47,8 @@ void RenderWashToMask(EffectLayer& layer, RenderState& state, const MaskTarget& 
 
   WashInputs inputs = InputsOf(layer, state);
   const bool useEdge = layer.edgeDistanceSquared != 0 || layer.edgeBlurRadius != 0;
-  if (inputs.texture == nullptr || inputs.coverage == nullptr ||
-      (useEdge && inputs.edge == nullptr)) {
+  if (inputs.texture.first == nullptr || inputs.coverage.first == nullptr ||
+      (useEdge && inputs.edge.first == nullptr)) {
     return;
   }
   const int width = std::min(inputs.width, target.width);

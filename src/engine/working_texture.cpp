@@ -70,7 +70,7 @@ void PrepareForPreview(EffectLayer& layer, RenderState& state) {
   progress.Report(progress.base + 2 * third);
   if (layer.kind == LayerKind::kSurface && layer.working != nullptr) {
     const ProgressShare nested(progress, progress.base + 2 * third, third);
-    SmoothRelief(*layer.working, &progress, state.pool);
+    SmoothRelief(*layer.working, &progress, state.isa);
   }
 }
 
@@ -94,7 +94,7 @@ void PrepareForFinal(EffectLayer& layer, RenderState& state) {
   layer.working = layer.texture;
   if (layer.kind == LayerKind::kSurface) {
     const ProgressShare share(state.progress, state.progress.base, 10);
-    SmoothRelief(*layer.working, &state.progress, state.pool);
+    SmoothRelief(*layer.working, &state.progress, state.isa);
   }
   CutAtOffset(layer);
 }

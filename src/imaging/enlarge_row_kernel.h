@@ -1,5 +1,6 @@
 // Included by enlarge_row.cpp and enlarge_row_avx2.cpp alone: one source, once
-// for each instruction set. No contraction, so the bytes are the same.
+// for each instruction set. No contraction, so the bytes are the same. This is
+// the definition.
 #include "imaging/enlarge_row.h"
 
 namespace tarnwick {

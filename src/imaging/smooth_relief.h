@@ -1,6 +1,6 @@
 #pragma once
+#include "base/cpu.h"
 #include "base/row_progress.h"
-#include "base/thread_pool.h"
 #include "imaging/raster_image.h"
 
 namespace tarnwick {
@@ -14,8 +14,7 @@ namespace tarnwick {
 // Sums are 32-bit floats, row by row from the left, topped at 255, truncated.
 //
 // Images of fewer than 3 rows or columns, or without pixels, are left alone.
-// Progress is reported for each row. Threads follow each other row by row;
-// same bytes for any number.
-void SmoothRelief(RasterImage& image, Progress* progress = nullptr, ThreadPool* pool = nullptr);
+// Progress is reported for each row. Same bytes for any `isa`.
+void SmoothRelief(RasterImage& image, Progress* progress = nullptr, Isa isa = BestIsa());
 
 }  // namespace tarnwick
