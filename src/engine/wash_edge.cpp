@@ -19,19 +19,55 @@ float Depth(const EffectLayer& layer) {
   return static_cast<float>(std::sqrt(static_cast<double>(layer.maxDistanceSquared))) + 1.0F;
 }
 
-// Gives a whole selection its white samples and its frame; false without memory.
-bool EnsureSelectionMap(EffectLayer& layer) {
-  if (layer.selectionMap == nullptr) return false;
-  if (layer.selectionMap->PeekPixels() != nullptr) return true;
-  if (!FillImage(*layer.selectionMap, kWhiteFill)) return false;
-  return ClearFrame(*layer.selectionMap, kMargin);
+// In a whole selection the nearest edge is the nearest side of the frame, and no
+// field is needed: this gives its largest distance.
+std::int32_t DeepestInFrame(const RasterImage& map) {
+  const int deepest = (std::min(map.StorageWidth(), map.StorageHeight()) - 1) / 2;
+  return deepest * deepest;
 }
 
-// False where there is nothing to measure.
-bool EnsureDistanceField(EffectLayer& layer) {
+// The distance field, or at least its maximum; false where there is nothing to
+// measure.
+bool EnsureDistances(EffectLayer& layer) {
   if (layer.distanceField) return true;
-  if (!EnsureSelectionMap(layer)) return false;
+  if (layer.selectionWhole && layer.selectionMap != nullptr) {
+    layer.maxDistanceSquared = DeepestInFrame(*layer.selectionMap);
+    return true;
+  }
+  if (layer.selectionMap == nullptr) return false;
   return BuildDistanceField(*layer.selectionMap, layer.distanceField, layer.maxDistanceSquared);
+}
+
+// White, but for what lies nearer to the frame than the threshold.
+void EatFrame(RasterImage& map, std::int32_t leastSquared) {
+  const int width = map.StorageWidth();
+  const int height = map.StorageHeight();
+  const auto farEnough = [&](int distance) {
+    // The frame itself is never selected.
+    return distance > 0 && std::int64_t{distance} * distance >= leastSquared;
+  };
+  int first = 0;
+  while (first < width && !farEnough(first)) ++first;
+  const int count = width - 2 * first;
+  if (count <= 0) return;
+  for (int y = 0; y < height; ++y) {
+    if (!farEnough(std::min(y, height - 1 - y))) continue;
+    std::memset(map.Pixels() + y * map.RowBytes() + first, 255, static_cast<std::size_t>(count));
+  }
+}
+
+void EatSelection(EffectLayer& layer, const RenderState& state) {
+  const std::uint8_t* const selection = layer.selectionMap->PeekPixels();
+  const std::int32_t* const distances = layer.distanceField.Data();
+  const std::int32_t least = layer.edgeDistanceSquared;
+  std::uint8_t* const out = layer.edgeMap->Pixels();
+  const auto stride = layer.edgeMap->RowBytes();
+  ForRows(state.pool, 0, layer.edgeMap->StorageHeight(), [&](int first, int last) {
+    for (std::ptrdiff_t i = first * stride; i < last * stride; ++i) {
+      const bool inside = selection[i] != 0 && (least == 0 || distances[i] >= least);
+      out[i] = inside ? 255 : 0;
+    }
+  });
 }
 
 void CopySelectionPlane(RasterImage& map, const RenderState& state) {
@@ -49,7 +85,7 @@ void SetEdgeDistance(EffectLayer& layer, int value) {
   if (layer.kind != LayerKind::kWash) return;
   layer.edgeDistance = value;
   layer.edgeDirty = true;
-  if (value != 0) (void)EnsureDistanceField(layer);
+  if (value != 0) (void)EnsureDistances(layer);
   const int distance =
       TruncateToInt(static_cast<double>(Depth(layer) * static_cast<float>(value)) / 100.0);
   layer.edgeDistanceSquared = static_cast<std::int32_t>(static_cast<std::uint32_t>(distance) *
@@ -65,7 +101,7 @@ void SetEdgeSoftness(EffectLayer& layer, int value) {
     layer.edgeBlurRadius = value;
     return;
   }
-  if (value != 0) (void)EnsureDistanceField(layer);
+  if (value != 0) (void)EnsureDistances(layer);
   layer.edgeBlurRadius =
       TruncateToInt(static_cast<double>(Depth(layer) * static_cast<float>(value)) / 200.0) / 2;
 }
@@ -96,26 +132,18 @@ void BuildEdgeMap(EffectLayer& layer, RenderState& state) {
       layer.selectionWhole && layer.edgeDistanceSquared == 0 && layer.edgeBlurRadius == 0;
   if (layer.edgeWhole) return;
   layer.edgeMap = MakeGrayImage(layer.documentBounds, kMargin);
-  std::uint8_t* const out = layer.edgeMap->Pixels();
-  if (out == nullptr) {
+  if (layer.edgeMap->Pixels() == nullptr) {
     layer.edgeMap = nullptr;
     return;
   }
   // A threshold of 0 stops nothing, whatever the distances are.
-  const bool measured = layer.edgeDistanceSquared == 0 || EnsureDistanceField(layer);
-  if (!measured || !EnsureSelectionMap(layer)) {
+  const bool measured = layer.edgeDistanceSquared == 0 || EnsureDistances(layer);
+  if (layer.selectionMap == nullptr || !measured) {
     (void)FillImage(*layer.edgeMap, kWhiteFill, state.colorServices);
+  } else if (layer.selectionWhole) {
+    EatFrame(*layer.edgeMap, layer.edgeDistanceSquared);
   } else {
-    const std::uint8_t* const selection = layer.selectionMap->PeekPixels();
-    const std::int32_t* const distances = layer.distanceField.Data();
-    const std::int32_t least = layer.edgeDistanceSquared;
-    const auto stride = layer.edgeMap->RowBytes();
-    ForRows(state.pool, 0, layer.edgeMap->StorageHeight(), [&](int first, int last) {
-      for (std::ptrdiff_t i = first * stride; i < last * stride; ++i) {
-        const bool inside = selection[i] != 0 && (least == 0 || distances[i] >= least);
-        out[i] = inside ? 255 : 0;
-      }
-    });
+    EatSelection(layer, state);
   }
   if (layer.edgeBlurRadius != 0) {
     const int radius =
