@@ -117,21 +117,21 @@ void ComposeSurface(EffectLayers& layers, RenderState& state, const EffectSettin
   const auto surfaceRow = state.isa == Isa::kAvx2 ? SurfaceRowAvx2 : SurfaceRowPlain;
 
   ForRowsReporting(state.pool, &state.progress, area.height, [&](int first, int last) {
-    SurfaceScratch scratch(area.width);
+    std::vector<float> lit(static_cast<std::size_t>(area.width));
+    std::vector<std::uint8_t> pixels(static_cast<std::size_t>(area.width) * 4);
     HeightRows relief(heights, area.width, area.height);
     std::vector<int> rows(displaces ? static_cast<std::size_t>(area.width) : 0);
     for (int y = first; y < last; ++y) {
       const std::ptrdiff_t at = static_cast<std::ptrdiff_t>(y) * state.renderRowBytes;
       relief.MoveTo(y);
-      LightRow(light, relief.Row(), relief.Next(), relief.NextIsAbove(), area.width,
-               scratch.light.data());
+      LightRow(light, relief.Row(), relief.Next(), relief.NextIsAbove(), area.width, lit.data());
       if (displaces) {
-        DisplaceRow(state, area, perspective, y, relief.Row(), scratch.pixels.data(), rows.data());
+        DisplaceRow(state, area, perspective, y, relief.Row(), pixels.data(), rows.data());
       } else {
-        TakeRow(state, area, y, scratch.pixels.data());
+        TakeRow(state, area, y, pixels.data());
       }
       std::uint8_t* const save = look.keepSave ? state.surfaceSave.Data() + at : nullptr;
-      surfaceRow({&scratch, result + at, save, area.width}, look);
+      surfaceRow({lit.data(), pixels.data(), result + at, save, area.width}, look);
       for (EdgeSampler& edge : edges) {
         if (!displaces) {
           edge.CopyRow(y, area.width);

@@ -1,6 +1,5 @@
 #pragma once
 #include <cstdint>
-#include <vector>
 
 #include "engine/shade_color.h"
 
@@ -21,21 +20,12 @@ struct SurfaceLook {
   bool keepSave = false;  // and is written to `save` too
 };
 
-// Floats for one row, three colours each.
-struct SurfaceScratch {
-  explicit SurfaceScratch(int width);
-  std::vector<float> light;          // `width`
-  std::vector<std::uint8_t> pixels;  // `width` x 4
-  std::vector<float> source[3];
-  std::vector<float> tone[3];
-  std::vector<float> blend[3];
-};
-
-// One row of `width` pixels: `scratch.light` is the brightness, `scratch.pixels`
-// the picture, with the alpha that counts. Writes `out`, and `save` if
-// look.keepSave and look.entire ask for it; both 4 bytes a pixel.
+// One row of `width` pixels. `light` is the brightness, `pixels` the picture with
+// the alpha that counts. Writes `out`, and `save` if look.keepSave and
+// look.entire ask for it; all but the light 4 bytes a pixel.
 struct SurfaceRow {
-  SurfaceScratch* scratch;
+  const float* light;
+  const std::uint8_t* pixels;
   std::uint8_t* out;
   std::uint8_t* save;
   int width;

@@ -7,26 +7,23 @@
 namespace tarnwick {
 namespace {
 
-// Plain pointers to the scratch, so that the loops see no aliases.
+// A row is worked in parts whose floats stay in the nearest cache.
+constexpr int kPart = 512;
+
 struct Planes {
-  float* __restrict s0;
-  float* __restrict s1;
-  float* __restrict s2;
-  float* __restrict t0;
-  float* __restrict t1;
-  float* __restrict t2;
-  float* __restrict b0;
-  float* __restrict b1;
-  float* __restrict b2;
+  alignas(32) float t[kPart];   // the light
+  alignas(32) float s0[kPart];  // the picture
+  alignas(32) float s1[kPart];
+  alignas(32) float s2[kPart];
+  alignas(32) float t0[kPart];  // the tone
+  alignas(32) float t1[kPart];
+  alignas(32) float t2[kPart];
+  alignas(32) float b0[kPart];  // the blend
+  alignas(32) float b1[kPart];
+  alignas(32) float b2[kPart];
 };
 
-inline Planes PlanesOf(SurfaceScratch& scratch) {
-  return {scratch.source[0].data(), scratch.source[1].data(), scratch.source[2].data(),
-          scratch.tone[0].data(),   scratch.tone[1].data(),   scratch.tone[2].data(),
-          scratch.blend[0].data(),  scratch.blend[1].data(),  scratch.blend[2].data()};
-}
-
-inline void SplitSource(const std::uint8_t* __restrict pixels, const Planes& p, int width) {
+inline void SplitSource(const std::uint8_t* __restrict pixels, Planes& __restrict p, int width) {
   for (int x = 0; x < width; ++x) {
     p.s0[x] = pixels[4 * x];
     p.s1[x] = pixels[4 * x + 1];
@@ -34,10 +31,11 @@ inline void SplitSource(const std::uint8_t* __restrict pixels, const Planes& p, 
   }
 }
 
-inline void ToneRow(const ShadeLook& look, float* __restrict light, const Planes& p, int width) {
+inline void ToneRow(const ShadeLook& look, const float* __restrict light, Planes& __restrict p,
+                    int width) {
   for (int x = 0; x < width; ++x) {
     const float t = LimitLight(light[x]);
-    light[x] = t;
+    p.t[x] = t;
     const Color3 c = ToneOfLight(look, t);
     p.t0[x] = c.c0;
     p.t1[x] = c.c1;
@@ -47,11 +45,10 @@ inline void ToneRow(const ShadeLook& look, float* __restrict light, const Planes
 
 // Calls blend(s, c, t) for each pixel and stores its colour.
 template <typename BlendPixel>
-inline void BlendRow(const float* __restrict light, const Planes& p, int width,
-                     const BlendPixel& blend) {
+inline void BlendRow(Planes& __restrict p, int width, const BlendPixel& blend) {
   for (int x = 0; x < width; ++x) {
     const Color3 b =
-        blend(Color3{p.s0[x], p.s1[x], p.s2[x]}, Color3{p.t0[x], p.t1[x], p.t2[x]}, light[x]);
+        blend(Color3{p.s0[x], p.s1[x], p.s2[x]}, Color3{p.t0[x], p.t1[x], p.t2[x]}, p.t[x]);
     p.b0[x] = b.c0;
     p.b1[x] = b.c1;
     p.b2[x] = b.c2;
@@ -62,45 +59,45 @@ inline int ToInt(float v) {
   return static_cast<std::int32_t>(v);
 }
 
-inline void BlendByType(const ShadeLook& look, const float* light, const Planes& p, int width) {
+inline void BlendByType(const ShadeLook& look, Planes& p, int width) {
   switch (look.type) {
     case kSurfaceColorize:
-      return BlendRow(light, p, width, [&](const Color3& s, const Color3& c, float t) {
+      return BlendRow(p, width, [&](const Color3& s, const Color3& c, float t) {
         const std::int32_t source[3] = {ToInt(s.c0), ToInt(s.c1), ToInt(s.c2)};
         return Colorize(look, source, c, t);
       });
     case kSurfaceTint:
-      return BlendRow(light, p, width, [](const Color3& s, Color3 c, float) {
+      return BlendRow(p, width, [](const Color3& s, Color3 c, float) {
         TintMix(s.c0, s.c1, s.c2, c.c0, c.c1, c.c2);
         return c;
       });
     case kSurfaceBoost:
-      return BlendRow(light, p, width, [](const Color3& s, Color3 c, float) {
+      return BlendRow(p, width, [](const Color3& s, Color3 c, float) {
         BoostMix(s.c0, s.c1, s.c2, c.c0, c.c1, c.c2);
         return c;
       });
     case kSurfaceEnhance:
-      return BlendRow(light, p, width, [](const Color3& s, const Color3& c, float) {
+      return BlendRow(p, width, [](const Color3& s, const Color3& c, float) {
         return Color3{Enhance(s.c0, c.c0), Enhance(s.c1, c.c1), Enhance(s.c2, c.c2)};
       });
     case kSurfaceVivid:
-      return BlendRow(light, p, width, [](const Color3& s, const Color3& c, float) {
+      return BlendRow(p, width, [](const Color3& s, const Color3& c, float) {
         return Color3{Vivid(ToInt(s.c0), c.c0), Vivid(ToInt(s.c1), c.c1), Vivid(ToInt(s.c2), c.c2)};
       });
     case kSurfaceMultiply:
-      return BlendRow(light, p, width, [](const Color3& s, const Color3& c, float) {
+      return BlendRow(p, width, [](const Color3& s, const Color3& c, float) {
         return Color3{s.c0 * c.c0 / 255.0F, s.c1 * c.c1 / 255.0F, s.c2 * c.c2 / 255.0F};
       });
     case kSurfaceBurn:
-      return BlendRow(light, p, width, [](const Color3& s, const Color3& c, float) {
+      return BlendRow(p, width, [](const Color3& s, const Color3& c, float) {
         return Color3{Burn(ToInt(s.c0), c.c0), Burn(ToInt(s.c1), c.c1), Burn(ToInt(s.c2), c.c2)};
       });
     default:
-      return BlendRow(light, p, width, [](const Color3&, const Color3& c, float) { return c; });
+      return BlendRow(p, width, [](const Color3&, const Color3& c, float) { return c; });
   }
 }
 
-inline void AdjustRow(const ShadeLook& look, const Planes& p, int width) {
+inline void AdjustRow(const ShadeLook& look, Planes& __restrict p, int width) {
   if (look.adjustsHue) {
     for (int x = 0; x < width; ++x) {
       const Color3 c = AdjustHue(look, {p.b0[x], p.b1[x], p.b2[x]});
@@ -126,7 +123,7 @@ inline std::uint8_t ToByte(float v) {
 template <bool kMixed>
 inline void WriteColors(const SurfaceRow& row, const Planes& p, float intensity) {
   std::uint8_t* __restrict out = row.out;
-  const std::uint8_t* __restrict pixels = row.scratch->pixels.data();
+  const std::uint8_t* __restrict pixels = row.pixels;
   const float rest = 1.0F - intensity;
   for (int x = 0; x < row.width; ++x) {
     if constexpr (kMixed) {
@@ -145,7 +142,7 @@ inline void WriteColors(const SurfaceRow& row, const Planes& p, float intensity)
 // "Fill Canvas": where the picture is transparent the pure tone shows, and its
 // brightest channel becomes the alpha.
 inline void WriteEntire(const SurfaceRow& row, const Planes& p, const SurfaceLook& look) {
-  const std::uint8_t* const pixels = row.scratch->pixels.data();
+  const std::uint8_t* const pixels = row.pixels;
   const float rest = 1.0F - look.intensity;
   for (int x = 0; x < row.width; ++x) {
     std::uint8_t* const out = row.out + 4 * x;
@@ -175,23 +172,31 @@ inline void WriteEntire(const SurfaceRow& row, const Planes& p, const SurfaceLoo
 
 inline void WriteSource(const SurfaceRow& row, const SurfaceLook& look) {
   const auto bytes = static_cast<std::ptrdiff_t>(row.width) * 4;
-  std::copy_n(row.scratch->pixels.data(), bytes, row.out);
+  std::copy_n(row.pixels, bytes, row.out);
   if (look.entire && look.keepSave) std::fill_n(row.save, bytes, std::uint8_t{0});
 }
 
-inline void SurfaceRowKernel(const SurfaceRow& row, const SurfaceLook& look) {
-  if (look.output == SurfaceOutput::kSourceOnly) return WriteSource(row, look);
-  SurfaceScratch& scratch = *row.scratch;
-  const Planes p = PlanesOf(scratch);
-  ToneRow(look.shade, scratch.light.data(), p, row.width);
+inline void SurfacePart(const SurfaceRow& row, const SurfaceLook& look) {
+  Planes p;
+  ToneRow(look.shade, row.light, p, row.width);
   if (look.output == SurfaceOutput::kBlend) {
-    SplitSource(scratch.pixels.data(), p, row.width);
-    BlendByType(look.shade, scratch.light.data(), p, row.width);
+    SplitSource(row.pixels, p, row.width);
+    BlendByType(look.shade, p, row.width);
     AdjustRow(look.shade, p, row.width);
   }
   if (look.entire) return WriteEntire(row, p, look);
   if (look.output == SurfaceOutput::kPure) return WriteColors<false>(row, p, 0.0F);
   WriteColors<true>(row, p, look.intensity);
+}
+
+inline void SurfaceRowKernel(const SurfaceRow& row, const SurfaceLook& look) {
+  if (look.output == SurfaceOutput::kSourceOnly) return WriteSource(row, look);
+  for (int first = 0; first < row.width; first += kPart) {
+    const std::ptrdiff_t at = std::ptrdiff_t{4} * first;
+    SurfacePart({row.light + first, row.pixels + at, row.out + at,
+                 row.save == nullptr ? nullptr : row.save + at, std::min(kPart, row.width - first)},
+                look);
+  }
 }
 
 }  // namespace
