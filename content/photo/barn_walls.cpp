@@ -122,8 +122,9 @@ void AddFooting(Mesh& mesh) {
       const float size = random.Range(0.22f, 0.46f);
       const float height = random.Range(0.13f, 0.19f);
       const Vec3 centre = from + along * (at + size / 2) + Vec3{0, random.Range(0.06f, 0.10f), 0};
-      AddStone(mesh, centre, {size * 0.47f, height, random.Range(0.12f, 0.18f)},
-               turn + random.Signed() * 0.12f, 22, random);
+      const Vec3 half{size * 0.47f, height, random.Range(0.12f, 0.18f)};
+      const float askew = random.Signed() * 0.12f;
+      AddStone(mesh, centre, half, turn + askew, 22, random);
       at += size * 0.93f;
     }
   };

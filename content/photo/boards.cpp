@@ -50,7 +50,8 @@ struct Plank {
   }
   [[nodiscard]] float Fibre(float u, float v, float bend) const {
     const float w = u + bend + 0.010f * Noise2(u * 5 + shift, v * 0.7f);
-    return 0.62f * Noise2(w * 62 + shift, v * 1.1f) + 0.38f * Noise2(w * 210, v * 3.6f + shift);
+    return 0.50f * Noise2(w * 62 + shift, v * 1.3f) + 0.32f * Noise2(w * 190, v * 4.4f + shift) +
+           0.30f * Noise2(w * 430 + shift, v * 11);
   }
   [[nodiscard]] float Crack(float u, float v, float bend) const {
     const float w = u + bend + 0.006f * Noise2(u * 9, v * 1.7f + shift);
@@ -104,7 +105,7 @@ void DescribePlank(const Scene::Point& p, float footprint, Surface& s) {
   const float age = Saturate(0.62f + 0.5f * Fbm2(p.u * 2.2f + plank.shift, p.v * 0.6f, 3) +
                              0.25f * (plank.seed - 0.5f));
   Vec3 wood = Mix(Vec3{0.215f, 0.140f, 0.085f}, Vec3{0.335f, 0.305f, 0.265f}, age);
-  wood = wood * (1 + 0.42f * fibre) * (0.86f + 0.28f * plank.seed);
+  wood = wood * (1 + 0.55f * fibre) * (0.86f + 0.28f * plank.seed);
   wood = Mix(wood, Vec3{0.105f, 0.062f, 0.036f}, 0.75f * knot);
   const float damp = Smooth(0.45f, 0.0f, p.v + 0.12f * fibre);
   if (p.material != Material::kBareWood) wood = Mix(wood, wood * Vec3{0.55f, 0.56f, 0.50f}, damp);
@@ -172,7 +173,7 @@ void DescribeLogEnd(const Scene::Point& p, Surface& s) {
   const float crack =
       Smooth(0.07f, 0.0f, (around < 0 ? -around : around)) * Smooth(0.005f, 0.03f, r);
   s.albedo =
-      Mix(Vec3{0.36f, 0.26f, 0.155f}, Vec3{0.28f, 0.245f, 0.20f}, p.seed) * (1 + 0.35f * rings);
+      Mix(Vec3{0.29f, 0.205f, 0.125f}, Vec3{0.165f, 0.145f, 0.12f}, p.seed) * (1 + 0.35f * rings);
   s.albedo = s.albedo * (1 + 0.3f * Noise2(p.u * 60 + shift, p.v * 60)) * (1 - 0.7f * crack);
 }
 

@@ -26,7 +26,7 @@ void DescribeGround(const Scene::Point& p, float footprint, Surface& s) {
   const float bare = TrackWear(x, z);
   // Thatch and moss between the blades of the meadow.
   const Vec3 thatch =
-      Mix(Vec3{0.115f, 0.115f, 0.045f}, Vec3{0.21f, 0.175f, 0.085f}, Saturate(0.5f + 0.8f * fine));
+      Mix(Vec3{0.058f, 0.070f, 0.022f}, Vec3{0.135f, 0.125f, 0.055f}, Saturate(0.5f + 0.8f * fine));
   Vec3 near = Mix(thatch, soil, bare);
   // Beyond the grown blades the meadow is a colour: fields in different crops.
   const Cell field = Cells2(x * 0.0042f + 0.3f, z * 0.0062f);

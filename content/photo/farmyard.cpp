@@ -21,7 +21,7 @@ void FurnishYard(Scene& scene) {
   scene.AddInstance(scene.AddMesh(MakeCartWheel()), ground(-4.50f, 0.33f, 0.05f, -0.24f), 0.5f);
   scene.AddInstance(scene.AddMesh(MakeLadder(3.7f)), ground(1.02f, -4.15f, 1.5708f, -0.225f), 0.5f);
   scene.AddInstance(scene.AddMesh(MakeLogPile(2.5f)), ground(0.32f, -3.65f, 0), 0.5f);
-  scene.AddInstance(scene.AddMesh(MakeBoardPile()), ground(3.05f, 0.9f, 0.55f), 0.5f);
+  scene.AddInstance(scene.AddMesh(MakeBoardPile()), ground(2.75f, -2.3f, 1.15f), 0.5f);
   scene.AddInstance(scene.AddMesh(MakeSign()), {{-0.66f, 1.86f, 0.019f}, 0, 1, 0}, 0.5f);
   scene.AddInstance(scene.AddMesh(MakeFence({0.45f, 0, -7.5f}, {13, 0, -5.2f})), {}, 0.5f);
 }

@@ -61,7 +61,7 @@ void AddBoard(Mesh& mesh, const Board& b) {
   for (const float v : {0.0f, b.length}) {
     std::array<std::uint32_t, 8> rim;
     for (std::size_t i = 0; i < rim.size(); ++i)
-      rim[i] = mesh.Add({centre(v, i), {}, section[i][0], v + b.vStart + section[i][1]});
+      rim[i] = mesh.Add({centre(v, i), {}, section[i][0] * 0.2f, v + b.vStart + section[i][1]});
     for (std::size_t i = 1; i + 1 < rim.size(); ++i)
       mesh.Face(rim[0], rim[i], rim[i + 1], b.material, b.seed);
   }

@@ -13,6 +13,24 @@ Vec3 RustColour(float depth, float grain) {
   return c * (1 + 0.35f * grain);
 }
 
+// Rows of nails through every other crest, and the rust they have started.
+void AddRoofNails(const Scene::Point& p, Surface& s) {
+  constexpr float kEvery = 2 * 0.078f;
+  constexpr float kRow = 0.61f;
+  // The sheet's own coordinates: the builder has shifted u and v by the seed.
+  const float u = p.u - p.seed * 17 - 0.25f * 0.078f;
+  const float v = p.v - p.seed * 9 - 0.11f;
+  const float du = u - kEvery * std::floor(u / kEvery + 0.5f);
+  const float dv = v - kRow * std::floor(v / kRow + 0.2f);
+  const float a = du < 0 ? -du : du;
+  const float stain = Smooth(0.022f, 0.003f, a + 0.008f * Noise2(p.u * 30, p.v * 8)) *
+                      Exp(-dv * 6) * (dv > 0 ? 0.75f : 0.0f);
+  s.albedo = Mix(s.albedo, Vec3{0.20f, 0.095f, 0.045f}, stain);
+  const float head = Smooth(0.011f, 0.008f, Length({du, dv, 0}));
+  s.albedo = Mix(s.albedo, Vec3{0.07f, 0.045f, 0.035f}, head);
+  s.specular = Mix(s.specular, Vec3{0.03f, 0.03f, 0.03f}, Max(stain, head));
+}
+
 void DescribeTin(const Scene::Point& p, float footprint, Surface& s) {
   const float shift = p.seed * 131;
   const float broad = Fbm2(p.u * 1.1f + shift, p.v * 0.7f + shift, 4);
@@ -31,6 +49,7 @@ void DescribeTin(const Scene::Point& p, float footprint, Surface& s) {
   s.albedo = Mix(zinc * 0.75f, RustColour(depth, fine), rust);
   s.specular = Mix(Vec3{0.24f, 0.245f, 0.25f}, Vec3{0.03f, 0.025f, 0.02f}, rust);
   s.roughness = Mix(0.42f + 0.1f * tone, 0.9f, rust);
+  AddRoofNails(p, s);
   if (footprint > 0.02f) return;
   Emboss(p, footprint, s, [&](float u, float v) {
     return 0.0012f * Fbm2(u * 42, v * 34 + shift, 2) * (0.3f + rust);
@@ -55,7 +74,8 @@ void DescribeDrum(const Scene::Point& p, float footprint, Surface& s) {
                    Saturate(0.45f + 0.8f * Fbm2(u * 1.5f, p.v * 1.9f + shift, 4)));
   paint = Mix(paint, Vec3{0.26f, 0.125f, 0.055f},
               0.65f * Smooth(0.05f, 0.6f, run + 0.25f * Smooth(0.25f, 0.0f, h)));
-  s.albedo = Mix(RustColour(Saturate(0.5f - h * 0.9f + 0.4f * fine), fine), paint, painted);
+  s.albedo =
+      Mix(RustColour(Saturate(0.30f - h * 1.6f + 0.75f * fine), fine + 0.4f * run), paint, painted);
   s.specular = Vec3{1, 1, 1} * Mix(0.025f, 0.045f, painted);
   s.roughness = Mix(0.9f, 0.30f + 0.18f * fine, painted);
   Emboss(p, footprint, s, [&](float a, float b) {

@@ -1,7 +1,10 @@
 #include <array>
+#include <span>
+#include <utility>
 
 #include "barn.h"
 #include "camera.h"
+#include "mesh_shapes.h"
 #include "noise.h"
 #include "planting.h"
 #include "portable_math.h"
@@ -25,11 +28,11 @@ class Meadow {
     std::array<int, 3> tall;
     std::array<int, 2> thin;  // for the middle distance: fewer and wider blades
     for (std::uint32_t i = 0; i < 3; ++i) {
-      lawn[i] = scene_.AddMesh(MakeTuft({40 + i, Count(190), 0.30f, 0.15f, 0.0042f, 0.16f, 3}));
+      lawn[i] = scene_.AddMesh(MakeTuft({40 + i, Count(430), 0.30f, 0.15f, 0.0044f, 0.16f, 3}));
       tall[i] = scene_.AddMesh(MakeTuft({50 + i, Count(130), 0.17f, 0.42f, 0.0050f, 0.24f, 4}));
     }
     for (std::uint32_t i = 0; i < 2; ++i)
-      thin[i] = scene_.AddMesh(MakeTuft({56 + i, Count(105), 0.34f, 0.17f, 0.0085f, 0.16f, 2}));
+      thin[i] = scene_.AddMesh(MakeTuft({56 + i, Count(330), 0.42f, 0.17f, 0.0085f, 0.16f, 2}));
     const int ears = scene_.AddMesh(MakeSeedHeads(61, 9, 0.55f));
     const int weed = scene_.AddMesh(MakeWeed(62, 0.42f));
     const int rosette = scene_.AddMesh(MakeWeed(63, 0.12f));
@@ -38,21 +41,24 @@ class Meadow {
     const int coarse = scene_.AddMesh(MakeTuft({66, Count(420), 1.1f, 0.30f, 0.014f, 0.30f, 2}));
 
     Random random(81);
-    Scatter(0.21f, 0, 26, [&](float x, float z, float away) {
+    const auto grow = [&](float x, float z, std::span<const int> low) {
       const float wear = TrackWear(x, z);
       if (random.Unit() < wear * 1.25f - 0.05f) return;
-      if (away > 10 && random.Unit() < 0.35f) return;
       const float rank = Fbm2(x * 0.55f, z * 0.55f, 3);
       const float wall = Smooth(0.75f, 0.15f, -InsideBarn(x, z)) * (1 - wear);
-      const float size = (0.78f + 0.75f * rank) * (1 - 0.6f * wear) + 0.35f * wall;
-      if (rank + wall * 0.75f > 0.30f + 0.35f * random.Unit()) {
-        Put(tall[random.Word() % 3], x, z, Clamp(size, 0.5f, 1.15f), random);
-      } else if (away > 10) {
-        Put(thin[random.Word() % 2], x, z, Clamp(size, 0.4f, 1.3f), random);
-      } else {
-        Put(lawn[random.Word() % 3], x, z, Clamp(size, 0.35f, 1.3f), random);
+      const float size = (0.80f + 0.75f * rank) * (1 - 0.6f * wear) + 0.35f * wall;
+      Put(low[random.Word() % low.size()], x, z, Clamp(size, 0.55f, 1.3f), random);
+      for (int i = 0; i < 4; ++i) {
+        if (rank + wall * 0.75f < 0.30f + 0.40f * random.Unit()) continue;
+        const float dx = random.Signed() * 0.2f;
+        const float dz = random.Signed() * 0.2f;
+        if (InsideBarn(x + dx, z + dz) > -0.1f) continue;
+        Put(tall[random.Word() % 3], x + dx, z + dz, Clamp(size, 0.5f, 1.15f), random);
       }
-    });
+    };
+    // Tiles that hardly overlap: rays then meet few of them at a time.
+    Scatter(0.35f, 0, 10, [&](float x, float z, float) { grow(x, z, lawn); });
+    Scatter(0.50f, 10, 26, [&](float x, float z, float) { grow(x, z, thin); });
     Scatter(0.65f, 0, 30, [&](float x, float z, float) {
       const float wear = TrackWear(x, z);
       const float wall = Smooth(0.7f, 0.2f, -InsideBarn(x, z));
@@ -70,11 +76,23 @@ class Meadow {
       else if (lot > 0.95f + 0.25f * patch)
         Put(yellow, x, z, random.Range(0.8f, 1.1f), random);
     });
+    std::array<int, 3> stones;
+    for (int& stone : stones) {
+      Mesh mesh;
+      AddStone(mesh, {}, {0.022f, 0.013f, 0.018f}, 0, 7, random);
+      stone = scene_.AddMesh(std::move(mesh));
+    }
+    Scatter(0.16f, 0, 17, [&](float x, float z, float) {
+      const float wear = TrackWear(x, z);
+      const float size = random.Unit();
+      if (wear > 0.35f && random.Unit() < 0.55f)
+        Put(stones[random.Word() % 3], x, z, 0.35f + 1.5f * size * size * size, random);
+    });
     // Rank growth close to the camera, out of focus in the lower corners.
-    for (int i = 0; i < static_cast<int>(150 * detail_); ++i) {
-      const float px = random.Unit() < 0.42f ? random.Range(-40, 210) : random.Range(700, 1040);
+    for (int i = 0; i < static_cast<int>(260 * detail_); ++i) {
+      const float px = random.Unit() < 0.42f ? random.Range(-40, 260) : random.Range(640, 1040);
       const Vec3 d = view_.Direction(px, 760);
-      const float away = random.Range(2.3f, 3.5f) / std::sqrt(d.x * d.x + d.z * d.z);
+      const float away = random.Range(4.3f, 6.4f) / std::sqrt(d.x * d.x + d.z * d.z);
       const Vec3 at = view_.Position() + d * away;
       if (TrackWear(at.x, at.z) > 0.3f) continue;
       const float lot = random.Unit();
@@ -82,7 +100,7 @@ class Meadow {
       Put(lot < 0.72f ? tall[random.Word() % 3] : (lot < 0.93f ? ears : daisy), at.x, at.z, size,
           random);
     }
-    Scatter(0.85f, 22, 75, [&](float x, float z, float away) {
+    Scatter(0.95f, 22, 75, [&](float x, float z, float away) {
       Put(coarse, x, z, random.Range(0.6f, 1.05f) * (away < 28 ? 0.6f : 1.0f), random);
     });
   }

@@ -27,7 +27,7 @@ class Woods {
     Put(near_[0], -7.6f, -9.0f, 1.12f, 0.35f);
     Put(near_[1], 5.2f, -22.0f, 1.05f, 0.7f);
     Put(near_[1], -13.5f, -5.5f, 1.0f, 0.25f);
-    Put(near_[0], 13.5f, 6.0f, 1.0f, 0.4f);
+    Put(near_[0], 12.0f, 10.5f, 1.0f, 0.4f);
     Put(shrub_, -7.2f, -1.6f, 0.9f, 0.4f);
     Put(shrub_, 2.0f, -12.0f, 0.95f, 0.6f);
     Put(shrub_, 0.4f, -9.6f, 0.75f, 0.3f);

@@ -12,10 +12,9 @@
 namespace tarnwick::photo {
 namespace {
 
-// A place within the pixel and a little around it: the softness of a lens.
+// A place around the pixel's centre, likelier near than far, at most one pixel off.
 float Soft(float a) {
-  const float t = a * 2 - 1;
-  return 0.5f + 0.80f * t * (1 - 0.45f * (t < 0 ? -t : t)) * 1.15f;
+  return a < 0.5f ? std::sqrt(2 * a) - 0.5f : 1.5f - std::sqrt(2 - 2 * a);
 }
 
 // Takes samples until the pixel has settled, `most` at the most and half of that
@@ -25,9 +24,7 @@ FramePixel Expose(const Scene& scene, const Sky& sky, const Camera& camera, int 
   constexpr float kSettled = 0.013f;  // error of the mean, in square roots of exposure
   FramePixel pixel;
   Vec3 ambient;
-  Vec3 mirrored;
   Vec3 aroundTint;
-  float arounds = 0;
   float squares = 0;
   float tone = 0;
   float toneSquares = 0;
@@ -50,8 +47,6 @@ FramePixel Expose(const Scene& scene, const Sky& sky, const Camera& camera, int 
     if (s.around) {
       ambient += s.tint * s.ambient;
       aroundTint += s.tint;
-      mirrored += s.mirrored;
-      arounds += 1;
     }
     const float look = std::sqrt(Luminance(s.direct + s.tint * 0.3f));
     tone += look;
@@ -61,7 +56,7 @@ FramePixel Expose(const Scene& scene, const Sky& sky, const Camera& camera, int 
     if (toneSquares / n - mean * mean < kSettled * kSettled * n) break;
   }
   const float k = 1 / n;
-  pixel.direct = pixel.direct * k + mirrored * (1 / arounds);
+  pixel.direct *= k;
   pixel.tint *= k;
   pixel.normal *= k;
   pixel.distance *= k;

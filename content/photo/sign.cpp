@@ -109,7 +109,10 @@ float Enamel(float x, float y) {
   const float screw = Length({Abs(x) - kHalfX + 0.035f, Abs(y) - kHalfY + 0.035f, 0});
   const float ragged = Fbm2(x * 17 + 3, y * 17, 4);
   const float stones = Cells2(x * 5.5f + 0.6f, y * 5.5f + 0.35f).nearest * 0.18f;
+  // One corner has been bent and has shed its glaze.
+  const float corner = Length({x - kHalfX, (y + kHalfY) * 1.3f, 0});
   float good = edge * 9 + 0.02f + 0.22f * ragged;
+  good = Min(good, (corner - 0.085f) * 7 + 0.42f * ragged);
   good = Min(good, (screw - 0.016f) * 8 + 0.16f * ragged);
   good = Min(good, (stones - 0.012f) * 6 + 0.13f * ragged +
                        0.25f * Fbm2(x * 2.1f, y * 2.1f + 4, 2) + 0.04f);
@@ -123,8 +126,8 @@ void DescribeSign(const Scene::Point& p, float footprint, Surface& s) {
   const float y = p.v;
   const float soft = Max(0.0010f, 0.5f * footprint);
   float white = 0;
-  white = Max(white, Smooth(0.0112f + soft, 0.0112f - soft,
-                            TextDistance("TARNWICK", 0.108f, 0.142f, x, y)));
+  white = Max(white, Smooth(0.0104f + soft, 0.0104f - soft,
+                            TextDistance("TARNWICK", 0.096f, 0.136f, x, y)));
   white = Max(white, Smooth(0.0078f + soft, 0.0078f - soft,
                             TextDistance("DAIRY", 0.075f, -0.085f, x * 0.98f, y)));
   const float rule = Max(Abs(y + 0.028f) - 0.0035f, Abs(x) - 0.37f);

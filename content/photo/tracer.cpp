@@ -135,35 +135,31 @@ Sample TraceSample(const Scene& scene, const Sky& sky, const Camera& camera, flo
   const Vec3 sheen = glossy ? Vec3{} : fresnel * 0.6f;
   const float backShare = Luminance(s.albedo);
   const float throughShare = Luminance(s.through);
-  const float total = mirrorShare + backShare + throughShare + 1e-6f;
-  float fork = 0;
-  choices.Pair(kFork, fork, b);
-  choices.Pair(kAround, a, b);
-  fork *= total;
-  if (!around) {
-    // Every other ray leaves this out: the light from around is smooth.
-  } else if (mirrorShare > 0 && fork < mirrorShare) {
-    // Rough surfaces mirror a cone about as wide as they are dull.
+  const Vec3 facingNormal = Dot(p.flatNormal, eye) < 0 ? -p.flatNormal : p.flatNormal;
+  if (mirrorShare > 0) {
+    // Duller surfaces mirror a cone about as wide as they are dull.
+    choices.Pair(kMirror, a, b);
     const float spread = s.roughness * s.roughness;
     const Vec3 n = Normalized(Mix(s.normal, CosineAround(s.normal, a, b), spread * 0.7f));
     Vec3 d = ray.direction - n * (2 * Dot(n, ray.direction));
-    const Vec3 side = Dot(p.flatNormal, eye) < 0 ? -p.flatNormal : p.flatNormal;
-    if (Dot(d, side) < 0) d = d - side * (2 * Dot(d, side));
-    sample.mirrored =
-        haze.left *
-        Incoming(scene, sky, Offset(p.position, p.flatNormal, d), Normalized(d), 1e30f, choices) *
-        fresnel * (total / mirrorShare);
-  } else {
-    const bool back = fork < mirrorShare + backShare;
-    const Vec3 n = back ? s.normal : -s.normal;
-    const Vec3 d = CosineAround(n, a, b);
+    if (Dot(d, facingNormal) < 0) d = d - facingNormal * (2 * Dot(d, facingNormal));
+    direct += fresnel * Incoming(scene, sky, Offset(p.position, p.flatNormal, d), Normalized(d),
+                                 1e30f, choices);
+  }
+  // Every other sample goes without: the light from around is smooth.
+  const float total = backShare + throughShare;
+  if (around && total > 1e-5f) {
+    float fork = 0;
+    choices.Pair(kFork, fork, b);
+    choices.Pair(kAround, a, b);
+    const Vec3 d = CosineAround(fork * total < backShare ? s.normal : -s.normal, a, b);
     sample.ambient =
-        Incoming(scene, sky, Offset(p.position, p.flatNormal, d), d, kAmbientReach, choices) *
-        (total / (backShare + throughShare));
+        Incoming(scene, sky, Offset(p.position, p.flatNormal, d), d, kAmbientReach, choices);
   }
   sample.tint = (s.albedo + s.through + sheen) * haze.left;
   sample.direct = direct * haze.left + haze.added;
-  sample.normal = s.normal;
+  // The smooth normal: fine relief is no reason not to average over neighbours.
+  sample.normal = Dot(p.normal, eye) < 0 ? -p.normal : p.normal;
   sample.distance = hit.distance;
   return sample;
 }

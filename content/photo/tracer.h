@@ -16,7 +16,7 @@ struct Sample {
   Vec3 mirrored;        // what the surface mirrors: final
   Vec3 tint;            // what `ambient` is to be multiplied with
   Vec3 ambient;         // light from all around, over pi
-  bool around = false;  // `mirrored` and `ambient` have been traced
+  bool around = false;  // `ambient` has been traced
   Vec3 normal;          // zero for the sky
   float distance = 0;
 };

@@ -119,8 +119,7 @@ class Grower {
                   Vec3{random_.Signed(), random_.Signed(), random_.Signed()} * 0.035f;
       const float around = random_.Unit() * 6.3f;
       const float slant = random_.Range(0.7f, 1.6f);
-      leaf.along = Normalized(Fork(heading, around, slant) +
-                              Vec3{0, -0.30f, 0});
+      leaf.along = Normalized(Fork(heading, around, slant) + Vec3{0, -0.30f, 0});
       // The blade faces the light, more or less.
       const Vec3 facing = Normalized(Vec3{random_.Signed() * 0.8f, 1, random_.Signed() * 0.8f});
       leaf.side = Normalized(Cross(leaf.along, facing));

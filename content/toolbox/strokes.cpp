@@ -9,7 +9,7 @@ namespace tarnwick::content {
 namespace {
 
 float Across(StrokeProfile profile, float distance, float radius) {
-  // A line thinner than a pixel covers it in part.
+  // Wires and grooves thinner than a pixel are lower instead of narrower.
   switch (profile) {
     case StrokeProfile::kRound: {
       const float t = distance / (radius + 0.5F);
@@ -20,7 +20,8 @@ float Across(StrokeProfile profile, float distance, float radius) {
     case StrokeProfile::kFlat:
       break;
   }
-  return Clamp01(radius + 0.5F - distance) * Min(1.0F, 2.0F * radius);
+  // The part of a pixel that lies within the line.
+  return Max(0.0F, Min(distance + 0.5F, radius) - Max(distance - 0.5F, -radius));
 }
 
 }  // namespace
