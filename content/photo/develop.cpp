@@ -46,6 +46,36 @@ float Grain(int x, int y, std::uint32_t layer) {
          0.28f * (white(x - 1, y) + white(x + 1, y) + white(x, y - 1) + white(x, y + 1));
 }
 
+// Dims single pixels that outshine all but one of their neighbours: few rays find
+// the sun between leaves, and those that do would sparkle.
+std::vector<Vec3> WithoutSparkles(const std::vector<Vec3>& light, int width, int height,
+                                  ThreadPool& pool) {
+  constexpr float kMost = 1.15f;
+  std::vector<Vec3> out = light;
+  pool.ForRows(1, height - 1, 8, [&](int first, int last) {
+    for (int y = first; y < last; ++y) {
+      for (int x = 1; x + 1 < width; ++x) {
+        const std::size_t i = static_cast<std::size_t>(y) * static_cast<std::size_t>(width) +
+                              static_cast<std::size_t>(x);
+        float brightest = 0;
+        float next = 0;
+        for (const std::size_t row :
+             {i - static_cast<std::size_t>(width), i, i + static_cast<std::size_t>(width)}) {
+          for (const std::size_t at : {row - 1, row, row + 1}) {
+            if (at == i) continue;
+            const float l = Luminance(light[at]);
+            next = Max(next, Min(l, brightest));
+            brightest = Max(brightest, l);
+          }
+        }
+        const float own = Luminance(light[i]);
+        if (own > next * kMost && own > 0) out[i] = light[i] * (next * kMost / own);
+      }
+    }
+  });
+  return out;
+}
+
 // No lens is sharp to the pixel: one pass over three columns, one over three rows.
 std::vector<Vec3> ThroughLens(const std::vector<Vec3>& light, int width, int height,
                               ThreadPool& pool) {
@@ -83,7 +113,8 @@ float FilmCurve(float x) {
 std::vector<std::uint8_t> Develop(const std::vector<Vec3>& exposure, int width, int height,
                                   ThreadPool& pool) {
   const auto table = CurveTable();
-  const std::vector<Vec3> light = ThroughLens(exposure, width, height, pool);
+  const std::vector<Vec3> light =
+      ThroughLens(WithoutSparkles(exposure, width, height, pool), width, height, pool);
   std::vector<std::uint8_t> bytes(light.size() * 3);
   const float half = static_cast<float>(width) * 0.5f;
   pool.ForRows(0, height, 8, [&](int first, int last) {
