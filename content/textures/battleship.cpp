@@ -168,6 +168,7 @@ Field Paint(const Sheet& sheet) {
     return h - 0.34F * gouge(p) * (1.0F - 0.5F * rust);
   });
   Repaint(sheet, height, [&](Spot p) { return 1.0F - height(p); });
+  Soften(sheet, height, 0.45F);
   StretchTo(sheet, height, 0.0005F, 0.9995F);
   return height;
 }

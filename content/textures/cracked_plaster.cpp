@@ -102,6 +102,7 @@ Field Paint(const Sheet& sheet) {
     return value * (1.0F - 0.90F * crack(p) * (1.0F - 0.5F * gone(p))) *
            (1.0F - 0.55F * fine(p) * (1.0F - gone(p))) * (1.0F - 0.18F * nearCrack(p));
   });
+  Soften(sheet, tone, 0.35F);
   StretchTo(sheet, tone, 0.002F, 0.996F);
   return tone;
 }

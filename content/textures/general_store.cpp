@@ -101,6 +101,7 @@ Field Paint(const Sheet& sheet) {
     return value * (1.0F - 0.92F * gapAt(p)) *
            (1.0F - 0.25F * Exp(-Min(at.toGap, at.toEnd) / 9.0F));
   });
+  Soften(sheet, tone, 0.5F);
   StretchTo(sheet, tone, 0.002F, 0.995F);
   return tone;
 }

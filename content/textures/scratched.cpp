@@ -8,6 +8,7 @@
 // that breaks off in little plates along a crease.
 #include "builder/texture_recipe.h"
 #include "toolbox/cells.h"
+#include "toolbox/filters.h"
 #include "toolbox/hash.h"
 #include "toolbox/maths.h"
 #include "toolbox/noise.h"
@@ -125,7 +126,7 @@ Field Paint(const Sheet& sheet) {
   const Cells shards{15.0F, 1.0F, seed + 38};
   const Cells plates{12.0F, 1.0F, seed + 36};
   const Spots dust{16.0F, 0.10F, 0.5F, 1.9F, seed + 37};
-  return Painted(sheet, [&](Spot p) {
+  Field print = Painted(sheet, [&](Spot p) {
     const float handling = Handling(sheet, p);
     const float along = p.fx * Cos(kLongWay) + p.fy * Sin(kLongWay);
     const float across = p.fy * Cos(kLongWay) - p.fx * Sin(kLongWay);
@@ -155,6 +156,8 @@ Field Paint(const Sheet& sheet) {
     const float broken = Max(Max(chip, rubbed), Max(cut(p), fold));
     return 1.0F - Clamp01(Max(Max(broken, speck), Max(hair(p), veil)));
   });
+  Soften(sheet, print, 0.4F);
+  return print;
 }
 
 const RegisteredTexture kScratched(TextureRecipe{

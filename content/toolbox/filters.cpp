@@ -111,6 +111,19 @@ void Blur(const Sheet& sheet, Field& field, float radius) {
   field = Transposed(sheet, turned);
 }
 
+void Soften(const Sheet& sheet, Field& field, float share) {
+  const Field sharp = field;
+  Repaint(sheet, field, [&](Spot p) {
+    const float beside = sharp.Clamped(p.x - 1, p.y) + sharp.Clamped(p.x + 1, p.y) +
+                         sharp.Clamped(p.x, p.y - 1) + sharp.Clamped(p.x, p.y + 1);
+    const float across = sharp.Clamped(p.x - 1, p.y - 1) + sharp.Clamped(p.x + 1, p.y - 1) +
+                         sharp.Clamped(p.x - 1, p.y + 1) + sharp.Clamped(p.x + 1, p.y + 1);
+    // 2 to 1, as in the binomial: a full share is the 1 2 1 filter both ways
+    // without its middle.
+    return Mix(sharp(p), (2.0F * beside + across) * (1.0F / 12.0F), share);
+  });
+}
+
 Field DistanceTo(const Sheet& sheet, const Field& mask) {
   // "Nowhere" has to outweigh any distance within the picture, yet leave a
   // float enough bits for the squares added to it.

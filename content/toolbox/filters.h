@@ -7,6 +7,11 @@ namespace tarnwick::content {
 // standard deviation): three box means each way. Edges repeat outwards.
 void Blur(const Sheet& sheet, Field& field, float radius);
 
+// Takes the stair steps off hard rims, in place: each sample gives `share`
+// (0..1) of itself to its neighbours, evenly weighted by nearness. Textures are
+// mostly seen enlarged, where a step of one pixel shows as a block.
+void Soften(const Sheet& sheet, Field& field, float share);
+
 // The distance in pixels from each place to the nearest place where `mask` is
 // above one half; 0 there, and 1e9 everywhere if there is none. Exact.
 [[nodiscard]] Field DistanceTo(const Sheet& sheet, const Field& mask);

@@ -69,6 +69,17 @@ TEST(Filters, BlurOfADotIsThreeBoxes) {
   EXPECT_NEAR(flat(0, 0), 0.25F, 1e-6F) << "edges repeat, so a flat field stays flat";
 }
 
+TEST(Filters, SoftenGivesItsShareToNeighbours) {
+  const Sheet sheet = SmallSheet(5, 5);
+  Field field(sheet);
+  field.Row(2)[2] = 1.0F;
+  Soften(sheet, field, 0.6F);
+  EXPECT_NEAR(field(2, 2), 0.4F, 1e-6F);
+  EXPECT_NEAR(field(1, 2), 0.1F, 1e-6F);  // a sixth of 0.6
+  EXPECT_NEAR(field(3, 1), 0.05F, 1e-6F);
+  EXPECT_EQ(field(4, 2), 0.0F);
+}
+
 TEST(Filters, DistanceIsThatOfTheNearest) {
   const Sheet sheet = SmallSheet(31, 23);
   for (std::uint32_t seed = 0; seed < 6; ++seed) {
