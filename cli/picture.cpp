@@ -1,5 +1,7 @@
 #include "picture.h"
 
+#include <string_view>
+
 namespace tarnwick {
 namespace {
 
@@ -12,8 +14,16 @@ bool IsShapeField(const char* name) {
   return false;
 }
 
-void* CopyField(VipsImage*, const char* name, GValue* value, void* to) {
-  if (!IsShapeField(name)) vips_image_set(static_cast<VipsImage*>(to), name, value);
+struct CopyJob {
+  VipsImage* to;
+  std::string_view prefix;
+};
+
+void* CopyField(VipsImage*, const char* name, GValue* value, void* data) {
+  const auto* job = static_cast<const CopyJob*>(data);
+  if (!IsShapeField(name) && std::string_view(name).starts_with(job->prefix)) {
+    vips_image_set(job->to, name, value);
+  }
   return nullptr;
 }
 
@@ -36,8 +46,13 @@ Picture PictureLike(const Picture& from, int width, int height) {
                     ->set("interpretation", from.image.interpretation())
                     ->set("xres", from.image.xres())
                     ->set("yres", from.image.yres())));
-  vips_image_map(from.image.get_image(), CopyField, like.image.get_image());
+  CopyAttachments(from.image, like.image);
   return like;
+}
+
+void CopyAttachments(const vips::VImage& from, const vips::VImage& to, std::string_view prefix) {
+  CopyJob job{to.get_image(), prefix};
+  vips_image_map(from.get_image(), CopyField, &job);
 }
 
 }  // namespace tarnwick

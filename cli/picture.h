@@ -2,6 +2,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 #include <vips/vips8>
 
@@ -34,6 +35,11 @@ using PictureNotes = std::vector<std::string>;
 
 // An empty picture of another size that takes over what `from` has attached.
 [[nodiscard]] Picture PictureLike(const Picture& from, int width, int height);
+
+// Copies what `from` has attached, but not what describes its shape; only fields
+// whose names begin with `prefix`.
+void CopyAttachments(const vips::VImage& from, const vips::VImage& to,
+                     std::string_view prefix = {});
 
 // A copy in memory of its own, which may be written to. Everything that `image`
 // was still to do is done now.

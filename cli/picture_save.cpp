@@ -1,10 +1,14 @@
 #include "picture_save.h"
 
 #include <new>
+#include <span>
 #include <string_view>
+#include <vector>
 
 #include "cli_error.h"
+#include "iptc_block.h"
 #include "picture_color.h"
+#include "tiff_metadata.h"
 #include "vips_library.h"
 
 namespace tarnwick {
@@ -14,11 +18,19 @@ using vips::VImage;
 
 constexpr int kFullColorQuality = 90;
 
+bool IsJpeg(const PictureFormat& format) {
+  return format.extension == "jpg" || format.extension == "jpeg" || format.extension == "jpe";
+}
+
+bool IsTiff(const PictureFormat& format) {
+  return format.extension == "tif" || format.extension == "tiff";
+}
+
 vips::VOption* WritingOptions(const PictureFormat& format, const VImage& image, int quality) {
   vips::VOption* options = VImage::option();
   if (format.lossy) options->set("Q", quality);
   const std::string_view name = format.extension;
-  if (name.starts_with("jp") && name != "jp2") {
+  if (IsJpeg(format)) {
     options->set("optimize_coding", true)
         ->set("subsample_mode", quality >= kFullColorQuality ? VIPS_FOREIGN_SUBSAMPLE_OFF
                                                              : VIPS_FOREIGN_SUBSAMPLE_ON);
@@ -30,7 +42,7 @@ vips::VOption* WritingOptions(const PictureFormat& format, const VImage& image, 
     options->set("strip", true);
   } else if (name == "webp") {
     options->set("smart_subsample", quality >= kFullColorQuality);
-  } else if (name.starts_with("tif")) {
+  } else if (IsTiff(format)) {
     constexpr double kClassicLimit = 3.9e9;
     const double bytes = 1.0 * image.width() * image.height() * image.bands();
     options->set("compression", VIPS_FOREIGN_TIFF_COMPRESSION_LZW)
@@ -77,6 +89,38 @@ VImage WithColorSpaceTag(const VImage& image) {
   return tagged;
 }
 
+std::span<const std::uint8_t> Attached(const VImage& image, const char* name) {
+  if (image.get_typeof(name) == 0) return {};
+  std::size_t length = 0;
+  const void* data = image.get_blob(name, &length);
+  return {static_cast<const std::uint8_t*>(data), length};
+}
+
+VImage Without(const VImage& image, const char* name) {
+  if (image.get_typeof(name) == 0) return image;
+  VImage changed = image.copy();
+  changed.remove(name);
+  return changed;
+}
+
+VImage WithWrappedIptc(const VImage& image) {
+  const std::vector<std::uint8_t> block = WrappedIptc(Attached(image, VIPS_META_IPTC_NAME));
+  VImage changed = Without(image, VIPS_META_IPTC_NAME);
+  vips_image_set_blob_copy(changed.get_image(), VIPS_META_IPTC_NAME, block.data(), block.size());
+  return changed;
+}
+
+void SaveTiff(const VImage& image, const std::string& path, const std::string& shown,
+              const PictureFormat& format, PictureNotes& notes) {
+  constexpr int kNoQuality = 0;
+  SaveImage(Without(image, VIPS_META_IPTC_NAME), path, shown, format, kNoQuality);
+  if (!AddMetadataToTiff(path, Attached(image, VIPS_META_EXIF_NAME),
+                         BareIptc(Attached(image, VIPS_META_IPTC_NAME)), image.width(),
+                         image.height())) {
+    notes.push_back("its EXIF and IPTC data could not be taken over");
+  }
+}
+
 }  // namespace
 
 void SaveImage(const VImage& image, const std::string& path, const std::string& shown,
@@ -85,7 +129,7 @@ void SaveImage(const VImage& image, const std::string& path, const std::string& 
     image.write_to_file(path.c_str(), WritingOptions(format, image, quality));
   } catch (const vips::VError&) {
     const std::string fault = VipsFault("unknown fault");
-    if (fault.find("out of memory") != std::string::npos) throw std::bad_alloc();
+    if (IsMemoryFault(fault)) throw std::bad_alloc();
     FailInput(shown, "cannot be written: " + fault, "check disk space and format");
   }
 }
@@ -101,10 +145,17 @@ void SavePicture(const Picture& picture, const std::string& path, const std::str
       image = ToUntaggedRgb(image);
     }
     image = WithColorSpaceTag(image);
+    if (IsJpeg(format) && image.get_typeof(VIPS_META_IPTC_NAME) != 0) {
+      image = WithWrappedIptc(image);
+    }
   } catch (const vips::VError&) {
     FailInput(shown, "colours cannot be converted: " + VipsFault("unknown fault"));
   }
-  SaveImage(image, path, shown, format, quality);
+  if (IsTiff(format)) {
+    SaveTiff(image, path, shown, format, notes);
+  } else {
+    SaveImage(image, path, shown, format, quality);
+  }
 }
 
 }  // namespace tarnwick

@@ -60,4 +60,10 @@ std::string VipsFault(const std::string& otherwise) {
   return text.empty() ? otherwise : text;
 }
 
+bool IsMemoryFault(const std::string& fault) {
+  // The second is the JPEG library's.
+  return fault.find("out of memory") != std::string::npos ||
+         fault.find("Insufficient memory") != std::string::npos;
+}
+
 }  // namespace tarnwick

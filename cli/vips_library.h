@@ -20,4 +20,7 @@ class VipsLibrary {
 // operations; forgets it. `otherwise` when it said nothing.
 [[nodiscard]] std::string VipsFault(const std::string& otherwise);
 
+// True if such a text speaks of memory that could not be had.
+[[nodiscard]] bool IsMemoryFault(const std::string& fault);
+
 }  // namespace tarnwick

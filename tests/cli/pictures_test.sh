@@ -81,18 +81,27 @@ tags() {
   exiftool -s -s -Artist -Make -LensModel -GPSLatitude -DateTimeOriginal -XMP-dc:Title \
     -IPTC:Keywords -ProfileDescription "$1"
 }
-for out in full-out.jpg full-out.webp full-out.png; do
-  run age "${off[@]}" full.jpg -o $out
+vips tiffsave p3.v full.tif
+exiftool -q -overwrite_original -TagsFromFile full.jpg -all:all -ExifByteOrder=MM full.tif
+expect_equal "$(tags full.tif)" "$(tags full.jpg)"
+keeps_tags() {
+  run age "${off[@]}" "$1" -o "$2"
   expect_silence
-  want=$(tags full.jpg)
+  local want
+  want=$(tags "$1")
   # Only JPEG and TIFF have a place for IPTC.
-  [ $out = full-out.jpg ] || want=$(grep -v Keywords <<<"$want")
-  expect_equal "$(tags $out)" "$want"
+  [[ $2 == *.jpg || $2 == *.tif ]] || want=$(grep -v Keywords <<<"$want")
+  expect_equal "$(tags "$2")" "$want"
+}
+for out in full-out.jpg full-out.webp full-out.png full-out.tif; do
+  keeps_tags full.tif tif-$out
+  keeps_tags full.jpg $out
   vipsheader -f icc-profile-data full.jpg >profile-in
   vipsheader -f icc-profile-data $out >profile-out
   cmp -s profile-in profile-out || fail "another profile in $out"
 done
 expect_equal "$(exiftool -ThumbnailImage full-out.jpg)" ""
+same_pixels tif-full-out.tif full.tif
 # A format without a place for the profile gets sRGB.
 vips copy p3.v p3.png
 run age "${off[@]}" p3.png -o p3.ppm
