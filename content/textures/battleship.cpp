@@ -163,13 +163,20 @@ Field Paint(const Sheet& sheet) {
     const float blister = blisters(torn(p)).depth * SoftThreshold(w, 0.16F, 0.3F) *
                           (1.0F - SoftThreshold(w, 0.40F, 0.05F));
     h += 0.24F * Sqrt(blister);
-    h += (0.05F * lumps(p) + 0.095F * peel(p)) * (1.0F - bare) + 0.16F * run(p) * (1.0F - bare);
+    h += (0.05F * lumps(p) + 0.075F * peel(p)) * (1.0F - bare) + 0.16F * run(p) * (1.0F - bare);
     h += (0.12F + 0.14F * rust) * bare * crust(p) - 0.30F * pit(p);
     return h - 0.34F * gouge(p) * (1.0F - 0.5F * rust);
   });
   Repaint(sheet, height, [&](Spot p) { return 1.0F - height(p); });
   Soften(sheet, height, 0.45F);
   StretchTo(sheet, height, 0.0005F, 0.9995F);
+  // Light sees slopes alone: the range goes to what lies near the level of the
+  // plates, and rivets and pits give some of theirs.
+  const float level = Percentile(height, 0.5F, 0.0F, 1.0F);
+  Repaint(sheet, height, [&](Spot p) {
+    const float off = (height(p) - level) * 2.0F;
+    return 0.5F + 0.5F * off * 2.1F / (1.0F + 1.1F * Abs(off));
+  });
   return height;
 }
 

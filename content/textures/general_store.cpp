@@ -20,7 +20,7 @@ namespace {
 
 Field Paint(const Sheet& sheet) {
   const std::uint32_t seed = sheet.seed;
-  const Planks planks{.seed = seed};
+  const Planks planks{.length = 2700.0F, .seed = seed};
   const Survey<Planks::Place> places(sheet, [&](Spot p) { return planks.At(p.fx, p.fy); });
   const Survey<Planks::Nail> nails(sheet, [&](Spot p) { return planks.NailAt(p.fx, p.fy); });
   // Every plank is cut from another tree and painted on another day.
@@ -52,10 +52,15 @@ Field Paint(const Sheet& sheet) {
   const PeelingCoat top = Peel(sheet, loss, {.at = 0.10F, .softness = 0.035F});
   const PeelingCoat first = Peel(sheet, loss, {.at = 0.34F, .softness = 0.04F, .thickness = 2.0F});
 
-  const auto gapAt = [&](Spot p) {
+  // Paint bridged the gaps here and there and dirt filled them, so that they
+  // are broken lines and no grid.
+  const Fbm bridged{70.0F, 4, 0.6F, seed + 32};
+  const Field gap = Painted(sheet, [&](Spot p) {
     const Planks::Place& at = places(p);
-    return Max(SmoothRamp(4.5F, 1.0F, at.toGap), SmoothRamp(3.0F, 0.8F, at.toEnd));
-  };
+    const float line =
+        Max(SmoothRamp(3.4F, 0.7F, at.toGap), 0.8F * SmoothRamp(2.6F, 0.6F, at.toEnd));
+    return line * Clamp01(0.62F + 0.25F * loss(p) + 0.75F * bridged(p.fx * 0.6F, p.fy));
+  });
   const auto nailHead = [&](Spot p) {
     const float d = nails(p).distance / 7.0F;
     return d < 1.0F ? Sqrt(1.0F - d * d) : 0.0F;
@@ -65,7 +70,7 @@ Field Paint(const Sheet& sheet) {
   const Field height = Painted(sheet, [&](Spot p) {
     return 0.45F * top.cover(p) + 0.30F * first.cover(p) + 1.1F * top.lift(p) +
            0.3F * first.lift(p) + (1.0F - 0.75F * first.cover(p)) * 0.40F * grain(p) +
-           0.06F * brush(p.fx * 0.06F, p.fy) - 1.4F * gapAt(p) + 1.2F * nailHead(p);
+           0.06F * brush(p.fx * 0.06F, p.fy) - 1.4F * gap(p) + 1.2F * nailHead(p);
   });
   const Field light = Relief(sheet, height, 0.20F);
 
@@ -98,8 +103,7 @@ Field Paint(const Sheet& sheet) {
     const float ring = SmoothRamp(17.0F, 6.0F, nail.distance);
     value *= 1.0F - (0.25F + 0.35F * nail.age) * Max(trail, ring) * (0.8F + 0.4F * open(p));
     if (nail.distance < 7.0F) value = 0.24F + 0.3F * light(p);
-    return value * (1.0F - 0.92F * gapAt(p)) *
-           (1.0F - 0.25F * Exp(-Min(at.toGap, at.toEnd) / 9.0F));
+    return value * (1.0F - 0.90F * gap(p)) * (1.0F - 0.16F * Exp(-Min(at.toGap, at.toEnd) / 8.0F));
   });
   Soften(sheet, tone, 0.5F);
   StretchTo(sheet, tone, 0.002F, 0.995F);
