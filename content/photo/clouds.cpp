@@ -47,7 +47,7 @@ float Density(Vec3 p, int octaves) {
   const Vec3 q = p + kDrift;
   const float mass = Mass(q, h);
   if (mass < kEmpty) return 0;
-  return Saturate((mass + 0.70f * Smooth(kEmpty, 0.02f, mass) * Billow(q * 1.25f, octaves)) * 4.5f);
+  return Saturate((mass + 0.70f * Smooth(-0.30f, 0.06f, mass) * Billow(q * 1.25f, octaves)) * 4.5f);
 }
 
 // The layer's crossing along a direction from the eye, in kilometres.

@@ -21,7 +21,7 @@ float Soft(float a) {
 // at the least: leaves need all of them, the sky few.
 FramePixel Expose(const Scene& scene, const Sky& sky, const Camera& camera, int x, int y,
                   int most) {
-  constexpr float kSettled = 0.013f;  // error of the mean, in square roots of exposure
+  constexpr float kSettled = 0.015f;  // error of the mean, in square roots of exposure
   FramePixel pixel;
   Vec3 ambient;
   Vec3 aroundTint;

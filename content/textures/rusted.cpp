@@ -26,10 +26,13 @@ Field Paint(const Sheet& sheet) {
   const Fbm crust{22.0F, 4, 0.66F, seed + 20};
   const Fbm grain{5.0F, 3, 0.75F, seed + 30};
   const Fbm fine{2.4F, 2, 0.7F, seed + 31};
-  const Fbm rain{90.0F, 5, 0.6F, seed + 32};
+  const Fbm rain{250.0F, 7, 0.64F, seed + 32};
+  const Fbm gusts{330.0F, 3, 0.5F, seed + 33};
 
   // Columns of rain: long noise, stretched downwards.
-  const Field streak = Painted(sheet, [&](Spot p) { return rain(p.fx * 2.6F, p.fy * 0.12F); });
+  const Field streak = Painted(sheet, [&](Spot p) {
+    return rain(p.fx * 2.6F, p.fy * 0.14F) * (0.45F + 1.1F * SmoothRamp(-0.3F, 0.5F, gusts(p)));
+  });
   const Field scab = Painted(sheet, [&](Spot p) {
     const Spot q = grown(drawn(p));
     return old(q) + 0.20F * crust(p) + 0.07F * grain(p) + 0.10F * streak(p);
@@ -87,7 +90,7 @@ const RegisteredTexture kRusted(TextureRecipe{
     .name = "Rusted",
     .set = TextureSet::kForge,
     .effects = {"Metals", "Industrial", "Weathered/Aged", "Texture (Heavy)"},
-    .seed = 88,
+    .seed = 42,
     .paint = Paint});
 
 }  // namespace
