@@ -55,7 +55,7 @@ struct Columns {
   const std::uint8_t* in;  // the horizontal means
   std::uint8_t* out;
   std::ptrdiff_t stride;
-  int rows;    // of the stream, without the last
+  int rows;    // of the stream
   int height;  // modulus of the window
   int radius;
 };
@@ -110,7 +110,7 @@ bool BoxBlur(RasterImage& image, int radius, ThreadPool* pool) {
       BlurRow(pixels + y * stride, means.Data() + y * stride, width, radius, divide);
     }
   });
-  const Columns columns{means.Data(), pixels, stride, rows, image.StorageHeight(), radius};
+  const Columns columns{means.Data(), pixels, stride, rows + 1, image.StorageHeight(), radius};
   // Strips of whole cache lines.
   constexpr int kStrip = 256;
   const int strips = (width + kStrip - 1) / kStrip;

@@ -16,8 +16,8 @@ namespace tarnwick {
 //          that starts with v loses up to v * radius. Not checked.
 // Edges    Columns outside count as 0. Rows wrap: above the first lies the last,
 //          so a radius wider than the frame lets top and bottom bleed into each
-//          other. Looks depend on that; do not mend it. The last row counts as 0
-//          and keeps its samples. Column 0 starts from a sum of 0.
+//          other. Looks depend on that; do not mend it. The last row counts as
+//          0. Column 0 starts from a sum of 0.
 // Memory   one temporary of the image's size, freed before return.
 // Threads  splits over `pool`, if given; same bytes for any split.
 // Errors   false without pixels or memory, or for a radius below 0; the image is
