@@ -18,9 +18,9 @@ Bytes WindowSums(const Bytes& in, int width, int radius) {
       means[at(x, y)] = static_cast<std::uint8_t>(sum / n);
     }
   }
-  Bytes out = in;
-  for (int y = 0; y < height - 1; ++y) {
-    for (int x = 0; x < width; ++x) {
+  Bytes out(in.size());
+  for (int y = 0; y < height; ++y) {
+    for (int x = 1; x < width; ++x) {
       int sum = 0;
       for (int r = y - radius; r <= y + radius; ++r) {
         sum += means[at(x, ((r % height) + height) % height)];
@@ -28,7 +28,6 @@ Bytes WindowSums(const Bytes& in, int width, int radius) {
       out[at(x, y)] = static_cast<std::uint8_t>(sum / n);
     }
   }
-  for (int y = 0; y < height; ++y) out[at(0, y)] = 0;
   return out;
 }
 
