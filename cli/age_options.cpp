@@ -33,7 +33,8 @@ ShownRect ParseWindow(const std::string& text) {
   for (std::size_t i = 0; i < numbers.size(); ++i) {
     const bool last = i + 1 == numbers.size();
     const std::size_t end = last ? rest.size() : rest.find(',');
-    const auto number = end == rest.npos ? std::nullopt : ParseNumber<int>(rest.substr(0, end));
+    const auto number =
+        end == std::string_view::npos ? std::nullopt : ParseNumber<int>(rest.substr(0, end));
     const bool isSize = i >= 2;
     if (!number || *number < (isSize ? 1 : 0) || *number > kMaxPictureSide) {
       FailUse("--window", "\"" + text + "\" is no window",

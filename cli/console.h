@@ -35,6 +35,8 @@ class Console {
 class ProgressBar : public ProgressSink {
  public:
   ProgressBar(Console& console, std::string label);
+  ProgressBar(const ProgressBar&) = delete;
+  ProgressBar& operator=(const ProgressBar&) = delete;
   ~ProgressBar() override;
   void Report(int done, int total) override;
 

@@ -86,7 +86,9 @@ struct SettingRange {
 struct SettingDefault {
   template <class Number>
   requires std::is_arithmetic_v<Number>
+  // NOLINTNEXTLINE(google-explicit-constructor): rows of the table name the value alone
   constexpr SettingDefault(Number value) : number(static_cast<double>(value)) {}
+  // NOLINTNEXTLINE(google-explicit-constructor)
   constexpr SettingDefault(const char* value) : text(value) {}
 
   double number = 0;
