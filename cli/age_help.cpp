@@ -68,11 +68,12 @@ std::string AgeHelp() {
          "\n"
          "examples:\n"
          "  tarnwick age photo.jpg -o aged.jpg\n"
-         "  tarnwick age --preset \"Old Barn\" --set WashCoverage1=40 photo.jpg -o aged.jpg\n"
+         "  tarnwick age --preset \"Rusted Tin Sign\" --set WashCoverage1=40 photo.jpg -o "
+         "aged.jpg\n"
          "  tarnwick age --set SurfaceUse=0 --set WashStainColor2=#805020 in.png -o out.png\n"
          "  tarnwick age --seed 7 --output-dir aged --suffix -aged *.jpg\n"
          "  tarnwick age --scale 4 --view wash1 photo.jpg -o wash.png\n"
-         "  tarnwick age --preset Rust --set WashType1=Stain --save-preset \"My Rust.twkpst\"\n"
+         "  tarnwick age --set WashType1=Stain --save-preset \"My Stain.twkpst\"\n"
          "\n"
          "exit status: 0 done, 1 some input failed, 2 wrong use\n";
 }

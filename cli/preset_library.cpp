@@ -86,6 +86,9 @@ fs::path FindPreset(const std::string& given, const std::string& option, const D
                     std::span<const PresetKind> kinds) {
   std::error_code fault;
   if (LooksLikePath(given) && fs::is_regular_file(given, fault)) return given;
+  if (LooksLikePath(given) && !folders.HasPresets()) {
+    FailUse(option + " " + given, "no such file", "check the name");
+  }
 
   const std::vector<PresetEntry> entries = ListPresets(folders.Presets(), kinds);
   const std::string wanted = WithoutExtension(given);

@@ -179,7 +179,7 @@ ExitCode RunPresets(Console& console, std::span<const std::string> arguments) {
     Print("usage: tarnwick presets COMMAND ...\n\n" + CommandsHelp(kCommands) +
           "\nexamples:\n"
           "  tarnwick presets list --kind wash\n"
-          "  tarnwick presets show \"Old Barn\"\n"
+          "  tarnwick presets show \"Rusted Tin Sign\"\n"
           "  tarnwick presets check mine.twkpst\n");
     return ExitCode::kDone;
   }

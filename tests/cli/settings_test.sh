@@ -92,6 +92,8 @@ expect_no_file out.png
 mkdir -p place/bin place/share
 cp "$TARNWICK" place/bin/tarnwick
 TARNWICK=$work/place/bin/tarnwick
+run age --preset ./none.twkpst --save-preset no.twkpst
+expect 2 "--preset ./none.twkpst: no such file"
 run presets list
 expect 2 "place/bin/Tarnwick Studio" "place/share/tarnwick" "TARNWICK_DATA"
 for folder in "place/Tarnwick Studio" place/share/tarnwick "place/bin/Tarnwick Studio"; do
