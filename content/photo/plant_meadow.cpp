@@ -25,12 +25,15 @@ class Meadow {
 
   void Plant() {
     std::array<int, 3> lawn;
+    std::array<int, 2> cropped;
     std::array<int, 3> tall;
     std::array<int, 2> thin;  // for the middle distance: fewer and wider blades
     for (std::uint32_t i = 0; i < 3; ++i) {
       lawn[i] = scene_.AddMesh(MakeTuft({40 + i, Count(430), 0.30f, 0.15f, 0.0044f, 0.16f, 3}));
       tall[i] = scene_.AddMesh(MakeTuft({50 + i, Count(130), 0.17f, 0.42f, 0.0050f, 0.24f, 4}));
     }
+    for (std::uint32_t i = 0; i < 2; ++i)
+      cropped[i] = scene_.AddMesh(MakeTuft({46 + i, Count(430), 0.30f, 0.08f, 0.0044f, 0.20f, 2}));
     for (std::uint32_t i = 0; i < 2; ++i)
       thin[i] = scene_.AddMesh(MakeTuft({56 + i, Count(330), 0.42f, 0.17f, 0.0085f, 0.16f, 2}));
     const int ears = scene_.AddMesh(MakeSeedHeads(61, 9, 0.55f));
@@ -47,7 +50,10 @@ class Meadow {
       const float rank = Fbm2(x * 0.55f, z * 0.55f, 3);
       const float wall = Smooth(0.75f, 0.15f, -InsideBarn(x, z)) * (1 - wear);
       const float size = (0.80f + 0.75f * rank) * (1 - 0.6f * wear) + 0.35f * wall;
-      Put(low[random.Word() % low.size()], x, z, Clamp(size, 0.55f, 1.3f), random);
+      // Never scaled so small that soil shows between the tiles: where growth is
+      // poor the blades themselves are short.
+      if (size < 0.75f) low = cropped;
+      Put(low[random.Word() % low.size()], x, z, Clamp(size, 0.85f, 1.3f), random);
       for (int i = 0; i < 4; ++i) {
         if (rank + wall * 0.75f < 0.30f + 0.40f * random.Unit()) continue;
         const float dx = random.Signed() * 0.2f;

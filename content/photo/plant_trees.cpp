@@ -24,7 +24,7 @@ class Woods {
 
   void Plant() {
     // The two by the barn, and one out of sight that dapples its front.
-    Put(near_[0], -7.6f, -9.0f, 1.12f, 0.35f);
+    Put(near_[0], -7.15f, -9.3f, 1.12f, 0.35f);
     Put(near_[1], 5.2f, -22.0f, 1.05f, 0.7f);
     Put(near_[1], -13.5f, -5.5f, 1.0f, 0.25f);
     Put(near_[0], 12.0f, 10.5f, 1.0f, 0.4f);
