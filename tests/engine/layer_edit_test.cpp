@@ -191,7 +191,12 @@ const struct {
      [](EffectSettings& s) { s.WashEdgeDistance1 = 0; }},
     {"edge softness", [](EffectLayer& w, RenderState&) { SetEdgeSoftness(w, 90); },
      [](EffectSettings& s) { s.WashEdgeSoftness1 = 90; }},
-    {"scale", [](EffectLayer& w, RenderState& r) { SetScale(w, r, 180); },
+    // The noise spans the texture, but only whoever moves the window tells it.
+    {"scale",
+     [](EffectLayer& w, RenderState& r) {
+       SetScale(w, r, 180);
+       w.coverageDirty = true;
+     },
      [](EffectSettings& s) { s.WashScale1 = 180; }},
     {"invert", [](EffectLayer& w, RenderState& r) { ToggleInvert(w, r); },
      [](EffectSettings& s) { s.WashInvert1 = 1; }},
