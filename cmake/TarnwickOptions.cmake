@@ -57,10 +57,12 @@ function(tarnwick_sources out)
   else()
     list(FILTER found EXCLUDE REGEX "_win\\.cpp$")
   endif()
-  # Intrinsics live only in files named for their instruction set.
+  # Intrinsics live only in files named for their instruction set. Optimised even
+  # in a debug build: a library template that is not inlined there might be the
+  # copy that the linker keeps for all, and other processors cannot run it.
   foreach(file ${found})
     if(file MATCHES "_avx2\\.cpp$")
-      set_source_files_properties("${file}" PROPERTIES COMPILE_OPTIONS "-mavx2")
+      set_source_files_properties("${file}" PROPERTIES COMPILE_OPTIONS "-mavx2;-O3")
     endif()
   endforeach()
   set(${out} ${found} PARENT_SCOPE)

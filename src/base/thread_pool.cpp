@@ -2,11 +2,13 @@
 
 #include <algorithm>
 #include <system_error>
+#include <utility>
 
 namespace tarnwick {
 
 ThreadPool::ThreadPool(int threads) {
   if (threads <= 0) threads = static_cast<int>(std::thread::hardware_concurrency());
+  workers_.reserve(static_cast<std::size_t>(std::max(threads - 1, 0)));
   for (int i = 1; i < threads; ++i) {
     try {
       workers_.emplace_back([this] { WorkerLoop(); });
@@ -50,7 +52,13 @@ void ThreadPool::TakeRanges() {
       last = end_ - next_ > step_ ? next_ + step_ : end_;
       next_ = last;
     }
-    (*work_)(first, last);
+    try {
+      (*work_)(first, last);
+    } catch (...) {
+      std::lock_guard lock(mutex_);
+      if (failure_ == nullptr) failure_ = std::current_exception();
+      next_ = end_;  // The rest is not worth doing.
+    }
   }
 }
 
@@ -77,6 +85,7 @@ void ThreadPool::ForRows(int begin, int end, int grain, const RowWork& work) {
   std::unique_lock lock(mutex_);
   idle_.wait(lock, [&] { return busy_ == 0; });
   work_ = nullptr;
+  if (failure_ != nullptr) std::rethrow_exception(std::exchange(failure_, nullptr));
 }
 
 void ForRows(ThreadPool* pool, int begin, int end, const ThreadPool::RowWork& work) {

@@ -1,5 +1,6 @@
 #pragma once
 #include <condition_variable>
+#include <exception>
 #include <functional>
 #include <mutex>
 #include <thread>
@@ -11,7 +12,8 @@ namespace tarnwick {
 //
 // Threads  The caller works too, so a pool of 1 starts none. A pool serves one
 //          caller at a time and its work must not call the pool again.
-// Errors   A thread that cannot be started is done without. Work must not throw.
+// Errors   A thread that cannot be started is done without. What work throws is
+//          thrown on by ForRows, on the caller's thread, when all hands rest.
 class ThreadPool {
  public:
   // `threads` counts the caller; 0 or less means one for each processor.
@@ -41,6 +43,7 @@ class ThreadPool {
   int end_ = 0;
   int step_ = 1;
   int busy_ = 0;
+  std::exception_ptr failure_;
   unsigned long generation_ = 0;
   bool stop_ = false;
 };

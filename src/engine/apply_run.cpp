@@ -1,6 +1,7 @@
 #include "engine/apply_run.h"
 
 #include <algorithm>
+#include <new>
 #include <vector>
 
 #include "base/checked_size.h"
@@ -61,8 +62,8 @@ void Begin(RunData& run, const PictureJob& job, int renderWidth, int renderHeigh
   }
 }
 
-ApplyOutcome Render(RunData& run, EffectSettings& settings, SettingsSession& session,
-                    const PictureJob& job, ViewMode view) {
+ApplyOutcome RenderAll(RunData& run, EffectSettings& settings, SettingsSession& session,
+                       const PictureJob& job, ViewMode view) {
   RenderState& state = run.state;
   ApplyOutcome outcome = FetchSource(state, job);
   if (outcome != ApplyOutcome::kDone) return outcome;
@@ -74,6 +75,17 @@ ApplyOutcome Render(RunData& run, EffectSettings& settings, SettingsSession& ses
   outcome = WriteResult(state, job);
   state.progress.Report(100, 0);
   return outcome;
+}
+
+// Pages that cannot be had leave a stage out; when not even a row's worth of
+// working memory is left, nothing is written.
+template <typename Work>
+ApplyOutcome WithinMemory(const Work& work) {
+  try {
+    return work();
+  } catch (const std::bad_alloc&) {
+    return ApplyOutcome::kOutOfMemory;
+  }
 }
 
 // The selection below each rendered pixel.
@@ -103,9 +115,11 @@ ApplyOutcome ApplyToPicture(EffectSettings& settings, SettingsSession& session,
                             const PictureJob& job) {
   const ApplyOutcome check = CheckJob(job);
   if (check != ApplyOutcome::kDone) return check;
-  RunData run;
-  Begin(run, job, job.width, job.height);
-  return Render(run, settings, session, job, ViewMode::kComposite);
+  return WithinMemory([&] {
+    RunData run;
+    Begin(run, job, job.width, job.height);
+    return RenderAll(run, settings, session, job, ViewMode::kComposite);
+  });
 }
 
 PreviewWindow WholeWindow(int pictureWidth, int pictureHeight, int scale) {
@@ -125,15 +139,17 @@ ApplyOutcome RenderPreview(EffectSettings& settings, SettingsSession& session,
       window.scale > kMaxPictureSide || !inDocument(window.x) || !inDocument(window.y)) {
     return ApplyOutcome::kBadPicture;
   }
-  RunData run;
-  run.state.previewMode = true;
-  run.state.viewScale = static_cast<float>(window.scale);
-  run.state.viewOriginX = window.x;
-  run.state.viewOriginY = window.y;
-  run.state.view = window.view;
-  Begin(run, job, window.width, window.height);
-  ShowSelection(run, job);
-  return Render(run, settings, session, job, window.view);
+  return WithinMemory([&] {
+    RunData run;
+    run.state.previewMode = true;
+    run.state.viewScale = static_cast<float>(window.scale);
+    run.state.viewOriginX = window.x;
+    run.state.viewOriginY = window.y;
+    run.state.view = window.view;
+    Begin(run, job, window.width, window.height);
+    ShowSelection(run, job);
+    return RenderAll(run, settings, session, job, window.view);
+  });
 }
 
 }  // namespace tarnwick

@@ -55,7 +55,7 @@ enum class ApplyOutcome {
   kUnsupportedMode,  // `mode` is none of the above; `out` untouched
   kBadPicture,       // a size or a pointer that cannot be; `out` untouched
   kNoConverter,      // CMYK without a converter, or it failed; `out` untouched
-  kOutOfMemory,      // not even the two working copies; `out` untouched
+  kOutOfMemory,      // not even the two working copies or a row; `out` untouched
 };
 
 // Ages the whole picture at full size.

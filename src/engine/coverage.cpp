@@ -70,10 +70,30 @@ void MakeFlat(EffectLayer& layer, std::uint8_t value) {
   layer.flatCoverage = value;
 }
 
+// Fresh maps for the present texture and window; the noise is not filled yet.
+void MakeMaps(EffectLayer& layer, const RenderState& state) {
+  const Rect bounds = CoverageBounds(layer, state);
+  layer.noiseMap = MakeGrayImage(bounds, kMargin);
+  layer.coverageMap = MakeGrayImage(bounds, kMargin);
+  layer.activeCoverage = nullptr;
+  layer.flatCoverage = -1;
+  layer.noiseWindow = WindowOf(layer, state);
+  layer.noisePending = true;
+}
+
+bool SameSize(const RasterImage& a, const RasterImage& b) {
+  return a.Width() == b.Width() && a.Height() == b.Height();
+}
+
 // Every byte of the noise through the table, and the soft rim. Without memory
 // there is no map.
 void Threshold(EffectLayer& layer, RenderState& state, int keep) {
   if (layer.coverageMap == nullptr || layer.noiseMap == nullptr) return;
+  // A full map may have been made for another window than the noise.
+  if (!SameSize(*layer.coverageMap, *layer.noiseMap)) {
+    if (layer.texture == nullptr) return;
+    MakeMaps(layer, state);
+  }
   const std::array<std::uint8_t, 256> table = ThresholdTable(keep);
   const bool flat = std::all_of(table.begin(), table.end(),
                                 [&](std::uint8_t entry) { return entry == table[0]; });
@@ -155,14 +175,7 @@ void BuildCoverage(EffectLayer& layer, RenderState& state) {
   }
   layer.coverageDirty = false;
   if (layer.texture == nullptr) return;
-  const Rect bounds = CoverageBounds(layer, state);
-  layer.coverageMap = nullptr;
-  layer.activeCoverage = nullptr;
-  layer.noiseMap = MakeGrayImage(bounds, kMargin);
-  layer.coverageMap = MakeGrayImage(bounds, kMargin);
-  layer.flatCoverage = -1;
-  layer.noiseWindow = WindowOf(layer, state);
-  layer.noisePending = true;
+  MakeMaps(layer, state);
   // The complement makes the value count as changed.
   const int coverage = layer.coverage;
   layer.coverage = ~coverage;

@@ -4,6 +4,7 @@
 #include "engine/working_texture.h"
 #include "imaging/fill.h"
 #include "imaging/orientation.h"
+#include "settings/effect_settings.h"
 #include "textures/texture_load.h"
 
 namespace tarnwick {
@@ -48,6 +49,16 @@ void SetTones(EffectLayer& layer, const LayerTones& tones) {
   layer.midtoneColor = tones.midtoneColor;
   layer.shadowColor = tones.shadowColor;
   layer.toneDirty = true;
+}
+
+void ResetBackgroundLayerColors(EffectLayer& background) {
+  EffectSettings defaults;
+  SettingsSession session;
+  ResetBackground(defaults, session);
+  background.highlightColor = ColorOfWord(defaults.BackgroundHighlightColor);
+  background.midtoneColor = ColorOfWord(defaults.BackgroundMidtoneColor);
+  background.shadowColor = ColorOfWord(defaults.BackgroundShadowColor);
+  background.toneDirty = true;
 }
 
 void RotateLayerClockwise(EffectLayer& layer, RenderState& state) {

@@ -23,6 +23,9 @@ struct LayerTones {
 };
 void SetTones(EffectLayer& layer, const LayerTones& tones);
 
+// The default tone colours of a background, into the layer alone.
+void ResetBackgroundLayerColors(EffectLayer& background);
+
 // A quarter turn of the texture as it is, and the angle with it, modulo 360.
 void RotateLayerClockwise(EffectLayer& layer, RenderState& state);
 void RotateLayerCounterClockwise(EffectLayer& layer, RenderState& state);

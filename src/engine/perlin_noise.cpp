@@ -26,8 +26,9 @@ PerlinNoise::PerlinNoise(std::uint32_t seed) {
     const double x = ((random.Next() & 511) - 256) * 0.00390625;
     const double y = ((random.Next() & 511) - 256) * 0.00390625;
     const double length = std::sqrt(x * x + y * y);
-    gradientX[i] = x / length;
-    gradientY[i] = y / length;
+    // 0 / 0, but said outright: a gradient of two zeros has no direction.
+    gradientX[i] = length == 0 ? NAN : x / length;
+    gradientY[i] = length == 0 ? NAN : y / length;
   }
   for (int k = 2; k <= 256; ++k) {
     const int r = DrawBelow(random, k);

@@ -3,6 +3,7 @@
 // unnamed namespace keeps the copies of different instruction sets apart.
 #include <algorithm>
 
+#include "base/truncate.h"
 #include "engine/shade_color.h"
 #include "imaging/color_blend.h"
 #include "imaging/hls_color.h"
@@ -39,31 +40,29 @@ inline Color3 ToneOfLight(const ShadeLook& look, float t) {
 }
 
 inline std::int32_t PureTone(float c) {
-  return static_cast<std::int32_t>(std::min(std::max(c, 0.0F), 255.0F));
+  return static_cast<std::int32_t>(LimitToByteRange(c));
 }
 
 inline float Enhance(float s, float c) {
   const float low = 2.0F * c * s / 255.0F;
   const float high = 255.0F - 2.0F * (255.0F - c) * (255.0F - s) / 255.0F;
-  const auto v = static_cast<std::int32_t>(s < 128.0F ? low : high);
+  const std::int32_t v = TruncateToInt(s < 128.0F ? low : high);
   return static_cast<float>(v & 0xFF);
 }
 
 inline float Burn(int s, float shade) {
-  const auto c = static_cast<std::int32_t>(shade);
+  const std::int32_t c = TruncateToInt(shade);
   if (c == 0) return 0.0F;
   const int v = (s - 255) * 256 / c + 255;
   return static_cast<float>(std::max(v, 0) & 0xFF);
 }
 
+// In 64 bits: a shade beyond the usual range doubles past an int.
 inline float Vivid(int s, float shade) {
-  const auto c = static_cast<std::int32_t>(shade);
-  if (c >= 128) {
-    // A tone that rounds beyond white would divide by less than 1.
-    return static_cast<float>(std::min(s * 256 / std::max(511 - 2 * c, 1), 255));
-  }
+  const std::int64_t c = TruncateToInt(shade);
+  if (c >= 128) return static_cast<float>(std::min<std::int64_t>(s * 256 / (511 - 2 * c), 255));
   if (c == 0) return 0.0F;
-  return static_cast<float>(std::max(255 + (s - 255) * 256 / (2 * c), 0));
+  return static_cast<float>(std::max<std::int64_t>(255 + (s - 255) * 256 / (2 * c), 0));
 }
 
 // Hue and saturation of the shade with the lightness of the source, worked into
@@ -74,7 +73,7 @@ inline Color3 Colorize(const ShadeLook& look, const std::int32_t (&s)[3], const 
   int ss = s[1];
   int sl = s[2];
   RgbToHsl255(sh, ss, sl);
-  int n[3] = {static_cast<int>(shade.c0), static_cast<int>(shade.c1), static_cast<int>(shade.c2)};
+  int n[3] = {TruncateToInt(shade.c0), TruncateToInt(shade.c1), TruncateToInt(shade.c2)};
   RgbToHsl255(n[0], n[1], n[2]);
   n[2] = sl;
   HslToRgb255(n[0], n[1], n[2]);
@@ -95,14 +94,12 @@ inline Color3 Colorize(const ShadeLook& look, const std::int32_t (&s)[3], const 
 }
 
 inline std::int32_t BrightenedChannel(int channel, float brightness) {
-  const auto v = static_cast<std::int32_t>(static_cast<float>(channel) + brightness);
-  return std::clamp(v, 0, 255);
+  return std::clamp(TruncateToInt(static_cast<float>(channel) + brightness), 0, 255);
 }
 
 inline Color3 AdjustHue(const ShadeLook& look, const Color3& c) {
-  const HlsColor hls = RgbToHls(static_cast<std::int32_t>(c.c0), static_cast<std::int32_t>(c.c1),
-                                static_cast<std::int32_t>(c.c2));
-  const auto hue = static_cast<std::int32_t>(static_cast<float>(hls.hue) + look.hueShift);
+  const HlsColor hls = RgbToHls(TruncateToInt(c.c0), TruncateToInt(c.c1), TruncateToInt(c.c2));
+  const std::int32_t hue = TruncateToInt(static_cast<float>(hls.hue) + look.hueShift);
   const RgbColor rgb = HlsToRgb(hue, hls.lightness, hls.saturation);
   return {static_cast<float>(BrightenedChannel(rgb.red, look.brightness)),
           static_cast<float>(BrightenedChannel(rgb.green, look.brightness)),
@@ -110,8 +107,7 @@ inline Color3 AdjustHue(const ShadeLook& look, const Color3& c) {
 }
 
 inline float AdjustContrast(const ShadeLook& look, float c) {
-  const float v = (c - 127.0F) * look.contrast + 127.0F;
-  return std::min(std::max(v, 0.0F), 255.0F);
+  return LimitToByteRange((c - 127.0F) * look.contrast + 127.0F);
 }
 
 }  // namespace

@@ -116,7 +116,7 @@ inline void AdjustRow(const ShadeLook& look, Planes& __restrict p, int width) {
 }
 
 inline std::uint8_t ToByte(float v) {
-  return static_cast<std::uint8_t>(static_cast<std::int32_t>(std::min(std::max(v, 0.0F), 255.0F)));
+  return static_cast<std::uint8_t>(static_cast<std::int32_t>(LimitToByteRange(v)));
 }
 
 // The colour that goes out: source and blend mixed, if `kMixed`.

@@ -36,7 +36,7 @@ WashInputs InputsOf(const EffectLayer& layer, const RenderState& state) {
   const RasterImage& texture = *layer.working;
   const RasterImage& coverage = *layer.activeCoverage;
   // The map has the texture's size, but for a pixel that the reduction rounds up:
-  // there its margin is read, as it always was.
+  // there its margin is read, and looks depend on it.
   inputs.width = std::min({texture.Width(), state.renderWidth, coverage.Width() + coverage.margin});
   inputs.height =
       std::min({texture.Height(), state.renderHeight, coverage.Height() + coverage.margin});

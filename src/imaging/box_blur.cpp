@@ -8,6 +8,9 @@
 namespace tarnwick {
 namespace {
 
+// 32-bit sums hold this many samples of 255, and more than any picture asks for.
+constexpr int kLargestRadius = 1 << 21;
+
 // Division by a fixed N >= 1 that truncates toward zero, as a multiplication:
 // exact while |sum| <= 1024 * N and N < 2^20. The sums here stay below 512 * N.
 class Divider {
@@ -96,7 +99,7 @@ void BlurColumns(const Columns& c, int first, int last, const Divider& divide) {
 
 bool BoxBlur(RasterImage& image, int radius, ThreadPool* pool) {
   std::uint8_t* const pixels = image.PeekPixels();
-  if (pixels == nullptr || radius < 0 || radius > (1 << 28)) return false;
+  if (pixels == nullptr || radius < 0 || radius > kLargestRadius) return false;
   if (radius == 0) return true;
   PageBuffer<std::uint8_t> means;
   if (!means.Allocate(image.store.bytes)) return false;

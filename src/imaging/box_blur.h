@@ -20,8 +20,8 @@ namespace tarnwick {
 //          0. Column 0 starts from a sum of 0.
 // Memory   one temporary of the image's size, freed before return.
 // Threads  splits over `pool`, if given; same bytes for any split.
-// Errors   false without pixels or memory, or for a radius below 0; the image is
-//          then unchanged.
+// Errors   false without pixels or memory, or for a radius below 0 or above 2^21;
+//          the image is then unchanged.
 [[nodiscard]] bool BoxBlur(RasterImage& image, int radius, ThreadPool* pool = nullptr);
 
 }  // namespace tarnwick

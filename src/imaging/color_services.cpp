@@ -4,8 +4,10 @@ namespace tarnwick {
 
 std::int16_t ColorSpaceOfMode(std::uint16_t mode) {
   // Indexed by mode; 0 and everything above 9 count as RGB.
-  static constexpr std::int16_t kSpaces[10] = {0, 4, 4, 0, 2, 5, 1, 4, 4, 3};
-  return mode <= 9 ? kSpaces[mode] : std::int16_t{0};
+  using enum ColorSpaceId;
+  static constexpr ColorSpaceId kSpaces[10] = {kRgb, kGray, kGray, kRgb,  kCmyk,
+                                               kHsl, kHsb,  kGray, kGray, kLab};
+  return static_cast<std::int16_t>(mode <= 9 ? kSpaces[mode] : kRgb);
 }
 
 bool ConvertColor(ColorServices* services, ColorChannels& channels, std::uint16_t fromMode,

@@ -2,16 +2,28 @@
 
 #include <algorithm>
 
+#include "base/truncate.h"
+
 namespace tarnwick {
 namespace {
 
+// m1 + (m2 - m1) * share / 40, rounded.
+int BetweenLevels(int m1, int m2, int share) {
+  const int scaled = WrappingMultiply(WrappingSubtract(m2, m1), share);
+  return WrappingAdd(m1, WrappingAdd(scaled, 20) / 40);
+}
+
 int HueToChannel(int m1, int m2, int hue) {
-  if (hue < 0) hue += kHlsMax - (hue / kHlsMax) * kHlsMax;
+  if (hue < 0) hue = WrappingAdd(hue, WrappingSubtract(kHlsMax, hue / kHlsMax * kHlsMax));
   if (hue > kHlsMax) hue = (hue - kHlsMax) % kHlsMax;
-  if (hue < 40) return m1 + ((m2 - m1) * hue + 20) / 40;
+  if (hue < 40) return BetweenLevels(m1, m2, hue);
   if (hue < 120) return m2;
-  if (hue < 160) return m1 + ((m2 - m1) * (160 - hue) + 20) / 40;
+  if (hue < 160) return BetweenLevels(m1, m2, 160 - hue);
   return m1;
+}
+
+int ChannelByte(int m1, int m2, int hue) {
+  return WrappingAdd(WrappingMultiply(HueToChannel(m1, m2, hue), 255), 120) / kHlsMax;
 }
 
 }  // namespace
@@ -47,16 +59,20 @@ HlsColor RgbToHls(int red, int green, int blue) {
 
 RgbColor HlsToRgb(int hue, int lightness, int saturation) {
   if (saturation == 0) {
-    const int gray = lightness * 255 / kHlsMax;
+    const int gray = WrappingMultiply(lightness, 255) / kHlsMax;
     return {gray, gray, gray};
   }
-  const int m2 = lightness <= 120
-                     ? ((saturation + kHlsMax) * lightness + 120) / kHlsMax
-                     : lightness + saturation - (lightness * saturation + 120) / kHlsMax;
-  const int m1 = 2 * lightness - m2;
-  return {(HueToChannel(m1, m2, hue + 80) * 255 + 120) / kHlsMax,
-          (HueToChannel(m1, m2, hue) * 255 + 120) / kHlsMax,
-          (HueToChannel(m1, m2, hue - 80) * 255 + 120) / kHlsMax};
+  int m2 = 0;
+  if (lightness <= 120) {
+    const int product = WrappingMultiply(WrappingAdd(saturation, kHlsMax), lightness);
+    m2 = WrappingAdd(product, 120) / kHlsMax;
+  } else {
+    const int product = WrappingMultiply(lightness, saturation);
+    m2 = WrappingSubtract(WrappingAdd(lightness, saturation), WrappingAdd(product, 120) / kHlsMax);
+  }
+  const int m1 = WrappingSubtract(WrappingMultiply(2, lightness), m2);
+  return {ChannelByte(m1, m2, WrappingAdd(hue, 80)), ChannelByte(m1, m2, hue),
+          ChannelByte(m1, m2, WrappingSubtract(hue, 80))};
 }
 
 }  // namespace tarnwick

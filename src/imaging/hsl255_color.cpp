@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "base/truncate.h"
+
 namespace tarnwick {
 namespace {
 
@@ -11,10 +13,10 @@ int HueToChannel255(double m1, double m2, double hue) {
   } else if (hue < 0) {
     hue += 255;
   }
-  if (hue < 42.5) return static_cast<int>(((m2 - m1) * (hue / 42.5) + m1) * 255 + 0.5);
-  if (hue < 127.5) return static_cast<int>(m2 * 255 + 0.5);
-  if (hue < 170) return static_cast<int>(((m2 - m1) * ((170 - hue) / 42.5) + m1) * 255 + 0.5);
-  return static_cast<int>(m1 * 255 + 0.5);
+  if (hue < 42.5) return TruncateToInt(((m2 - m1) * (hue / 42.5) + m1) * 255 + 0.5);
+  if (hue < 127.5) return TruncateToInt(m2 * 255 + 0.5);
+  if (hue < 170) return TruncateToInt(((m2 - m1) * ((170 - hue) / 42.5) + m1) * 255 + 0.5);
+  return TruncateToInt(m1 * 255 + 0.5);
 }
 
 }  // namespace
@@ -23,8 +25,9 @@ void RgbToHsl255(int& c0, int& c1, int& c2) {
   const int r = c0;
   const int g = c1;
   const int b = c2;
-  const int high = std::max({r, g, b});
-  const int low = std::min({r, g, b});
+  // Differences in 64 bits: a shade may lie far outside 0..255.
+  const double high = std::max({r, g, b});
+  const double low = std::min({r, g, b});
   const double sum = high + low;
   const double lightness = sum * 0.5;
   double hue = 0;
@@ -33,11 +36,11 @@ void RgbToHsl255(int& c0, int& c1, int& c2) {
     const double d = high - low;
     saturation = lightness < 128 ? 255 * d / sum : 255 * d / (511 - low - high);
     if (r == high) {
-      hue = (g - b) / d;
+      hue = (static_cast<double>(g) - b) / d;
     } else if (g != high) {
-      hue = (r - g) / d + 4;
+      hue = (static_cast<double>(r) - g) / d + 4;
     } else {
-      hue = (b - r) / d + 2;
+      hue = (static_cast<double>(b) - r) / d + 2;
     }
     hue *= 42.5;
     if (hue < 0) {
@@ -46,9 +49,9 @@ void RgbToHsl255(int& c0, int& c1, int& c2) {
       hue -= 255;
     }
   }
-  c0 = static_cast<int>(hue + 0.5);
-  c1 = static_cast<int>(saturation + 0.5);
-  c2 = static_cast<int>(lightness + 0.5);
+  c0 = TruncateToInt(hue + 0.5);
+  c1 = TruncateToInt(saturation + 0.5);
+  c2 = TruncateToInt(lightness + 0.5);
 }
 
 void HslToRgb255(int& c0, int& c1, int& c2) {

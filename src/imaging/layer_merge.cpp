@@ -7,7 +7,7 @@ namespace tarnwick {
 bool CompositeThroughMask(RasterImage& target, const RasterImage& source, const RasterImage& mask,
                           const Rect& rect) {
   if (source.Width() != mask.Width() || source.Height() != mask.Height() ||
-      rect.Width() != source.Width() || rect.Height() != source.Height() || rect.top < 0 ||
+      rect.Width() > source.Width() || rect.Height() > source.Height() || rect.top < 0 ||
       rect.left < 0 || rect.bottom > target.Height() || rect.right > target.Width()) {
     return false;
   }

@@ -5,10 +5,10 @@ namespace tarnwick {
 
 // Merges of document layers. Depth 8.
 
-// Lays `source` over `target` at `rect` (top and left are the place, the size is
-// the source's) through `mask`: d + ((s - d) * m) / 255, truncated toward zero,
-// in the first three planes that both have. One mask plane serves all. False,
-// and nothing written, when sizes do not agree or pixels are missing.
+// Lays the top left part of `source` that has the size of `rect` over `target` at
+// `rect` through `mask`, which has the source's size: d + ((s - d) * m) / 255, truncated toward
+// zero, in the first three planes that both have. One mask plane serves all. False, and nothing
+// written, when sizes do not agree or pixels are missing.
 [[nodiscard]] bool CompositeThroughMask(RasterImage& target, const RasterImage& source,
                                         const RasterImage& mask, const Rect& rect);
 

@@ -17,7 +17,11 @@ RasterImage::RasterImage(std::uint16_t colorMode_, const Rect& bounds_, std::int
       planeCount(planeCount_),
       allocHint(allocHint_) {
   // A width that no row of 32-bit length can hold never gets storage.
-  const std::int64_t bits = static_cast<std::int64_t>(StorageWidth()) * depth;
+  const std::int64_t width = std::int64_t{bounds.right} - bounds.left + 2 * std::int64_t{margin};
+  const std::int64_t height = std::int64_t{bounds.bottom} - bounds.top + 2 * std::int64_t{margin};
+  const auto fits = [](std::int64_t size) { return size >= INT32_MIN && size <= INT32_MAX; };
+  if (!fits(width) || !fits(height)) bounds = {};
+  const std::int64_t bits = std::int64_t{StorageWidth()} * depth;
   if (StorageWidth() > 0 && bits <= INT32_MAX) rowBits = static_cast<std::int32_t>(bits);
   originBits = (static_cast<std::int64_t>(rowBits) + depth) * margin;
 }

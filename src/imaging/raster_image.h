@@ -12,8 +12,8 @@ inline constexpr std::uint16_t kGrayMode = 1;
 inline constexpr std::uint16_t kRgbMode = 3;
 inline constexpr std::uint16_t kCmykMode = 4;
 
-// No image takes more than this; a larger one counts as out of memory. It holds
-// the largest texture that a picture of 30,000 x 30,000 asks for.
+// No image takes more than this; a larger one counts as out of memory. A texture
+// of the picture's own shape fits at every scale, up to 30,000 x 30,000.
 inline constexpr std::uint64_t kMaxImageBytes = std::uint64_t{1} << 32;
 
 // Owns the memory of an image. `committed` and `memory` are both set or neither.

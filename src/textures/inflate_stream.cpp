@@ -3,6 +3,7 @@
 #include <zlib.h>
 
 #include <algorithm>
+#include <array>
 #include <memory>
 #include <new>
 
@@ -11,56 +12,63 @@ namespace {
 
 constexpr std::size_t kReadSize = 0x40000;
 constexpr std::size_t kMaxRoom = 0x40000000;  // zlib counts in 32 bits
+constexpr std::size_t kSpareSize = 0x4000;
 
 class Inflater {
  public:
-  Inflater() { ready_ = inflateInit(&stream_) == Z_OK; }
+  Inflater() : code_(inflateInit(&stream_)) {}
   ~Inflater() {
-    if (ready_) inflateEnd(&stream_);
+    if (code_ == Z_OK) inflateEnd(&stream_);
   }
   Inflater(const Inflater&) = delete;
   Inflater& operator=(const Inflater&) = delete;
-  [[nodiscard]] bool Ready() const { return ready_; }
+  [[nodiscard]] int InitCode() const { return code_; }
   [[nodiscard]] z_stream& Stream() { return stream_; }
 
  private:
   z_stream stream_{};
-  bool ready_ = false;
+  int code_;
 };
 
-// The rest of the destination. When it is full, one spare byte tells whether the
-// stream has more to give.
+// The rest of the destination, and a place for what does not fit it: the stream
+// is read to its end, since only there it tells whether it is whole.
 class Destination {
  public:
   Destination(std::uint8_t* data, std::size_t size) : next_(data), left_(size) {}
   void OfferRoom(z_stream& stream) {
-    room_ = left_ == 0 ? 1 : static_cast<uInt>(std::min(left_, kMaxRoom));
-    stream.next_out = left_ == 0 ? &spare_ : next_;
+    room_ = static_cast<uInt>(left_ == 0 ? kSpareSize : std::min(left_, kMaxRoom));
+    stream.next_out = left_ == 0 ? spare_.data() : next_;
     stream.avail_out = room_;
   }
-  // False when the stream gave more than the destination holds.
-  [[nodiscard]] bool TakeOutput(const z_stream& stream) {
+  void TakeOutput(const z_stream& stream) {
+    if (left_ == 0) return;
     const std::size_t written = room_ - stream.avail_out;
-    if (left_ == 0) return written == 0;
     next_ += written;
     left_ -= written;
-    return true;
   }
 
  private:
   std::uint8_t* next_;
   std::size_t left_;
   uInt room_ = 0;
-  std::uint8_t spare_ = 0;
+  std::array<std::uint8_t, kSpareSize> spare_;
 };
 
 }  // namespace
 
-int InflateStream(std::FILE* file, std::uint8_t* destination, std::size_t size) {
+int InflateStream(std::FILE* file, std::uint8_t* destination, std::size_t size,
+                  const char*& complaint) {
+  complaint = nullptr;
   const std::unique_ptr<std::uint8_t[]> buffer(new (std::nothrow) std::uint8_t[kReadSize]);
-  if (buffer == nullptr) return kInflateNoBuffer;
+  if (buffer == nullptr) {
+    complaint = "InflateStream(): Failed to allocate read buffer.";
+    return kInflateNoBuffer;
+  }
   Inflater inflater;
-  if (!inflater.Ready()) return kInflateNoInit;
+  if (inflater.InitCode() != Z_OK) {
+    complaint = "InflateStream(): inflateInit(&zStream) failed.";
+    return inflater.InitCode();
+  }
   z_stream& stream = inflater.Stream();
   Destination output(destination, size);
 
@@ -76,7 +84,7 @@ int InflateStream(std::FILE* file, std::uint8_t* destination, std::size_t size) 
       code = inflate(&stream, Z_NO_FLUSH);
       if (code == Z_NEED_DICT) return kInflateTruncated;
       if (code == Z_DATA_ERROR || code == Z_MEM_ERROR) return code;
-      if (!output.TakeOutput(stream)) return 0;
+      output.TakeOutput(stream);
     } while (stream.avail_out == 0 && code != Z_STREAM_END);
   }
   return code == Z_STREAM_END ? 0 : kInflateTruncated;

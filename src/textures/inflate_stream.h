@@ -9,15 +9,16 @@ namespace tarnwick {
 inline constexpr int kInflateReadError = -1;
 inline constexpr int kInflateTruncated = -3;
 inline constexpr int kInflateNoBuffer = -4;
-inline constexpr int kInflateNoInit = -6;
 
 // Inflates the zlib stream at the present place of `file` into `destination`,
 // `size` bytes, through a buffer of 256 KiB.
 //
 // Returns 0 at the stream's end, also when it gave fewer than `size` bytes: the
-// rest keeps what was there. A stream that gives more is cut at `size`, and that
-// is 0 too. A damaged stream gives zlib's code, a file that ends before its
+// rest keeps what was there. Of a stream that gives more the rest is read and
+// dropped. A damaged stream gives zlib's code, a file that ends before its
 // stream does kInflateTruncated; what was inflated until then stays.
-[[nodiscard]] int InflateStream(std::FILE* file, std::uint8_t* destination, std::size_t size);
+// `complaint` is set to a text where the system lacked something, else to null.
+[[nodiscard]] int InflateStream(std::FILE* file, std::uint8_t* destination, std::size_t size,
+                                const char*& complaint);
 
 }  // namespace tarnwick

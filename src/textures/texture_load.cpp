@@ -1,6 +1,8 @@
 #include "textures/texture_load.h"
 
 #include <algorithm>
+#include <cstring>
+#include <utility>
 
 #include "engine/texture_offset.h"
 #include "engine/working_texture.h"
@@ -26,6 +28,15 @@ ImagePtr WhiteImage(const RenderState& state, const Rect& bounds) {
   return FillImage(*blank, kWhiteFill, state.colorServices) ? blank : nullptr;
 }
 
+// The engine reads plane 0 alone; a grey copy of it spares the others' work.
+ImagePtr FirstPlane(ImagePtr image) {
+  if (image->planeCount == 1 || image->PeekPixels() == nullptr) return image;
+  ImagePtr gray = MakeGrayImage(image->bounds, 0);
+  if (gray->Pixels() == nullptr) return image;
+  std::memcpy(gray->Pixels(), image->PeekPixels(), gray->PlaneBytes());
+  return gray;
+}
+
 void SetMissingSize(EffectLayer& layer) {
   layer.textureWidth = kMissingSize;
   layer.textureHeight = kMissingSize;
@@ -48,7 +59,7 @@ ImagePtr ReadOrStandIn(EffectLayer& layer, const RenderState& state) {
   ImagePtr image;
   const bool whole = file.ReadImage(image);
   const bool empty = layer.textureWidth == 0 || layer.textureHeight == 0;
-  if (whole && !empty && image != nullptr) return image;
+  if (whole && !empty && image != nullptr) return FirstPlane(std::move(image));
   Alert(state, "The file ", layer.fileName, " cannot to be rasterized");
   // Nothing can be scaled from a picture without a size.
   if (empty) SetMissingSize(layer);

@@ -34,6 +34,7 @@ bool AWashFile::InitWithFile(std::FILE* stream) {
   const int reason = errno;
   Close();
   file = stream;
+  width = height = channels = 0;
   if (file == nullptr) {
     errno = reason;
     ComplainWithReason("AWashFile::InitOpen() failed.");
@@ -84,13 +85,10 @@ bool AWashFile::ReadImage(ImagePtr& image) {
   // An empty picture has nothing to inflate; one without memory has no place.
   if (pixels == nullptr) return width == 0 || height == 0;
   errno = 0;
-  const int code = InflateStream(file, pixels, image->store.bytes);
+  const char* complaint = nullptr;
+  const int code = InflateStream(file, pixels, image->store.bytes, complaint);
   if (code == 0) return true;
-  if (code == kInflateNoBuffer) {
-    ComplainWithReason("InflateStream(): Failed to allocate read buffer.");
-  } else if (code == kInflateNoInit) {
-    ComplainWithReason("InflateStream(): inflateInit(&zStream) failed.");
-  }
+  if (complaint != nullptr) ComplainWithReason(complaint);
   if (complain_) {
     complain_("InflateStream failed with error " + std::to_string(code) + ".\n");
   }
