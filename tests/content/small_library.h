@@ -1,6 +1,7 @@
 #pragma once
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <filesystem>
 #include <string>
 
@@ -15,8 +16,10 @@ namespace tarnwick::content {
 class SmallLibrary {
  public:
   SmallLibrary() {
-    folder_ = std::filesystem::path(::testing::TempDir()) / "tarnwick_small_library";
-    std::filesystem::remove_all(folder_);
+    // Two builds may be tested at once.
+    const auto now = std::chrono::steady_clock::now().time_since_epoch().count();
+    folder_ = std::filesystem::path(::testing::TempDir()) /
+              ("tarnwick_small_library_" + std::to_string(now));
     std::filesystem::create_directories(folder_);
     ThreadPool pool(0);
     for (const TextureRecipe& recipe : AllTextures()) {
