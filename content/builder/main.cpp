@@ -13,10 +13,8 @@
 #include "textures/texture_effects.h"
 #include "textures/wash_file_writer.h"
 
+namespace tarnwick::content {
 namespace {
-
-using namespace tarnwick;
-using namespace tarnwick::content;
 
 constexpr int kDone = 0, kFailed = 1, kWrongUse = 2;
 
@@ -149,9 +147,7 @@ int Build(const Options& options, const std::vector<TextureRecipe>& recipes) {
   return kDone;
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
+int Run(int argc, char** argv) {
   Options options;
   if (const int code = ParseOptions(argc, argv, options); code != kDone) return code;
   if (options.help) return std::fputs(kHelp, stdout), kDone;
@@ -172,4 +168,11 @@ int main(int argc, char** argv) {
     return WrongUse("nothing to do", "give -o, --pgm, --contact-sheet or --list");
   }
   return Build(options, recipes);
+}
+
+}  // namespace
+}  // namespace tarnwick::content
+
+int main(int argc, char** argv) {
+  return tarnwick::content::Run(argc, argv);
 }

@@ -101,7 +101,8 @@ constexpr float kClear = 0.15F;
 // How many clear places can be reached from (x, y) over places that are not
 // blank, with gaps of one place allowed.
 int Reached(const Field& field, int x, int y) {
-  std::vector<char> seen(static_cast<std::size_t>(field.Width() * field.Height()));
+  const auto width = static_cast<std::size_t>(field.Width());
+  std::vector<char> seen(width * static_cast<std::size_t>(field.Height()));
   std::vector<std::pair<int, int>> open = {{x, y}};
   int count = 0;
   while (!open.empty()) {
@@ -112,7 +113,7 @@ int Reached(const Field& field, int x, int y) {
         const int nx = cx + i;
         const int ny = cy + j;
         if (nx < 0 || ny < 0 || nx >= field.Width() || ny >= field.Height()) continue;
-        char& mark = seen[static_cast<std::size_t>(ny * field.Width() + nx)];
+        char& mark = seen[static_cast<std::size_t>(ny) * width + static_cast<std::size_t>(nx)];
         if (mark != 0 || field(nx, ny) <= 0.0F) continue;
         mark = 1;
         count += field(nx, ny) > kClear ? 1 : 0;
