@@ -9,9 +9,9 @@ namespace {
 // One leaf of the doors, hung at `hinge` and opened by `angle`; `side` is the
 // way from the hinge to the leaf's free edge.
 void AddLeaf(Mesh& mesh, float hinge, float side, float angle, Random& random) {
-  constexpr float width = kDoorWidth / 2 - 0.012f;
-  constexpr float foot = 0.085f;
-  constexpr float head = kDoorHeight + 0.06f;
+  constexpr float kWidth = kDoorWidth / 2 - 0.012f;
+  constexpr float kFoot = 0.085f;
+  constexpr float kHead = kDoorHeight + 0.06f;
   const Vec3 pivot{hinge, 0, 0.035f};
   const Vec3 across{side * Cos(angle), 0, Sin(angle)};
   const Vec3 out{-side * Sin(angle), 0, Cos(angle)};
@@ -19,8 +19,8 @@ void AddLeaf(Mesh& mesh, float hinge, float side, float angle, Random& random) {
     return pivot + across * a + Vec3{0, y, 0} + out * depth;
   };
   float a = 0;
-  while (a < width - 0.01f) {
-    const float w = Min(random.Range(0.12f, 0.16f), width - a);
+  while (a < kWidth - 0.01f) {
+    const float w = Min(random.Range(0.12f, 0.16f), kWidth - a);
     Board b;
     b.across = across;
     b.along = {0, 1, 0};
@@ -31,8 +31,8 @@ void AddLeaf(Mesh& mesh, float hinge, float side, float angle, Random& random) {
     b.material = Material::kBoardGreen;
     b.seed = random.Unit();
     const float uneven = random.Range(-0.012f, 0.012f);
-    b.origin = at(a + w / 2, foot + uneven, random.Range(-0.002f, 0.002f));
-    b.length = head - foot;
+    b.origin = at(a + w / 2, kFoot + uneven, random.Range(-0.002f, 0.002f));
+    b.length = kHead - kFoot;
     b.steps = 10;
     AddBoard(mesh, b);
     a += w;
@@ -45,15 +45,15 @@ void AddLeaf(Mesh& mesh, float hinge, float side, float angle, Random& random) {
     b.warp = 0.002f;
     AddBoard(mesh, b);
   };
-  constexpr float low = 0.36f;
-  constexpr float high = 2.02f;
-  constexpr float mid = 1.18f;
-  for (const float y : {low, mid, high})
-    brace(at(0.03f, y, 0.024f), at(width - 0.03f, y, 0.024f), 0.15f, 0.026f);
-  brace(at(0.10f, low + 0.06f, 0.023f), at(width - 0.10f, mid - 0.06f, 0.023f), 0.13f, 0.024f);
-  brace(at(0.10f, mid + 0.06f, 0.023f), at(width - 0.10f, high - 0.06f, 0.023f), 0.13f, 0.024f);
+  constexpr float kLow = 0.36f;
+  constexpr float kHigh = 2.02f;
+  constexpr float kMid = 1.18f;
+  for (const float y : {kLow, kMid, kHigh})
+    brace(at(0.03f, y, 0.024f), at(kWidth - 0.03f, y, 0.024f), 0.15f, 0.026f);
+  brace(at(0.10f, kLow + 0.06f, 0.023f), at(kWidth - 0.10f, kMid - 0.06f, 0.023f), 0.13f, 0.024f);
+  brace(at(0.10f, kMid + 0.06f, 0.023f), at(kWidth - 0.10f, kHigh - 0.06f, 0.023f), 0.13f, 0.024f);
   // Strap hinges.
-  for (const float y : {low, high}) {
+  for (const float y : {kLow, kHigh}) {
     Board strap = BoardBetween(at(-0.13f, y, 0.042f), at(0.62f, y, 0.042f), out, 0.048f, 0.008f);
     strap.material = Material::kIron;
     strap.warp = 0.001f;
@@ -69,10 +69,10 @@ void AddLeaf(Mesh& mesh, float hinge, float side, float angle, Random& random) {
     }
   }
   // A bar for the hand.
-  const TubePoint handle[4] = {{at(width - 0.14f, 1.06f, 0.02f), 0.008f},
-                               {at(width - 0.14f, 1.075f, 0.075f), 0.009f},
-                               {at(width - 0.14f, 1.285f, 0.075f), 0.009f},
-                               {at(width - 0.14f, 1.30f, 0.02f), 0.008f}};
+  const TubePoint handle[4] = {{at(kWidth - 0.14f, 1.06f, 0.02f), 0.008f},
+                               {at(kWidth - 0.14f, 1.075f, 0.075f), 0.009f},
+                               {at(kWidth - 0.14f, 1.285f, 0.075f), 0.009f},
+                               {at(kWidth - 0.14f, 1.30f, 0.02f), 0.008f}};
   AddTube(mesh, handle, 8, Material::kIron, 0.9f);
 }
 

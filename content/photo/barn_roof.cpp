@@ -19,12 +19,12 @@ struct Sheet {
 
 void AddSheet(Mesh& mesh, const Sheet& s) {
   const int columns = static_cast<int>(s.width / kWave * kPiecesPerWave);
-  constexpr int rows = 7;
+  constexpr int kRows = 7;
   const auto first = static_cast<std::uint32_t>(mesh.vertices.size());
-  for (int j = 0; j <= rows; ++j) {
+  for (int j = 0; j <= kRows; ++j) {
     for (int i = 0; i <= columns; ++i) {
       const float u = s.width * static_cast<float>(i) / static_cast<float>(columns);
-      const float v = s.length * static_cast<float>(j) / rows;
+      const float v = s.length * static_cast<float>(j) / kRows;
       const float phase = u / kWave * 2 * kPi;
       const float t = v / s.length;
       const float dent = 0.012f * Noise2(u * 1.9f + s.seed * 50, v * 1.4f) +
@@ -33,7 +33,7 @@ void AddSheet(Mesh& mesh, const Sheet& s) {
       const float height = kDepth * Sin(phase) + dent + bent + 0.004f * t;
       const float slope = kDepth * 2 * kPi / kWave * Cos(phase);
       // Edges were cut by hand.
-      const float ragged = j == rows ? 0.006f * Noise2(u * 9 + s.seed * 77, 1) : 0.0f;
+      const float ragged = j == kRows ? 0.006f * Noise2(u * 9 + s.seed * 77, 1) : 0.0f;
       mesh.Add({s.corner + s.across * u + s.down * (v + ragged) + s.normal * height,
                 Normalized(s.normal - s.across * slope), u + s.seed * 17, v + s.seed * 9});
     }
@@ -41,22 +41,22 @@ void AddSheet(Mesh& mesh, const Sheet& s) {
   const auto at = [&](int i, int j) {
     return first + static_cast<std::uint32_t>(j * (columns + 1) + i);
   };
-  for (int j = 0; j < rows; ++j)
+  for (int j = 0; j < kRows; ++j)
     for (int i = 0; i < columns; ++i)
       mesh.Quad(at(i, j), at(i + 1, j), at(i + 1, j + 1), at(i, j + 1), Material::kRoofTin, s.seed);
 }
 
 // Bent sheets over the ridge.
 void AddRidge(Mesh& mesh, float from, float to, Random& random) {
-  constexpr int pieces = 10;
+  constexpr int kPieces = 10;
   float z = from;
   while (z > to) {
     const float end = Max(z - random.Range(1.6f, 2.0f), to);
     const float seed = random.Unit();
     const float rise = random.Range(0.0f, 0.012f);
     std::uint32_t before[2] = {};
-    for (int i = 0; i <= pieces; ++i) {
-      const float t = (static_cast<float>(i) / pieces * 2 - 1);
+    for (int i = 0; i <= kPieces; ++i) {
+      const float t = (static_cast<float>(i) / kPieces * 2 - 1);
       const float a = t < 0 ? -t : t;
       const float x = -kBarnWidth / 2 + t * 0.19f;
       const float y = RoofHeight(-kBarnWidth / 2) + 0.055f + rise - 0.135f * a * Mix(a, 1, 0.55f);
@@ -77,11 +77,11 @@ void AddRoof(Mesh& mesh) {
   const float rise = kRidgeHeight - kEaveHeight;
   const float run = kBarnWidth / 2;
   const float slopeLength = std::sqrt(rise * rise + run * run);
-  constexpr float overhang = 0.38f;
+  constexpr float kOverhang = 0.38f;
   for (const float side : {1.0f, -1.0f}) {
     const Vec3 down{side * run / slopeLength, -rise / slopeLength, 0};
     const Vec3 normal{side * rise / slopeLength, run / slopeLength, 0};
-    const float total = slopeLength + overhang;
+    const float total = slopeLength + kOverhang;
     // The lower course first; the upper one laps over it.
     for (int course = 1; course >= 0; --course) {
       const float top = course == 0 ? 0.0f : total * 0.5f - 0.10f;

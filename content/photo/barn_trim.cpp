@@ -18,26 +18,26 @@ void Bar(Mesh& mesh, Vec3 from, Vec3 to, Vec3 outward, float width, float thickn
 
 // A window in the long side: frame, sash bars and four panes.
 void AddWindow(Mesh& mesh, float z, Random& random) {
-  constexpr float w = kWindowHalfWidth;
-  constexpr float h = kWindowHalfHeight;
-  constexpr float y = kWindowY;
+  constexpr float kW = kWindowHalfWidth;
+  constexpr float kH = kWindowHalfHeight;
+  constexpr float kY = kWindowY;
   const Vec3 out{1, 0, 0};
   const auto bar = [&](Vec3 a, Vec3 b, float width, float thickness, float x) {
-    Bar(mesh, a + Vec3{x, y, z}, b + Vec3{x, y, z}, out, width, thickness, Material::kBoardWhite,
+    Bar(mesh, a + Vec3{x, kY, z}, b + Vec3{x, kY, z}, out, width, thickness, Material::kBoardWhite,
         random.Unit());
   };
-  bar({0, -h - 0.05f, -w}, {0, h + 0.05f, -w}, 0.10f, 0.028f, 0.025f);
-  bar({0, -h - 0.05f, w}, {0, h + 0.05f, w}, 0.10f, 0.028f, 0.026f);
-  bar({0, h, -w - 0.09f}, {0, h, w + 0.09f}, 0.11f, 0.030f, 0.032f);
-  bar({0, -h, -w - 0.10f}, {0, -h, w + 0.10f}, 0.06f, 0.085f, 0.05f);
-  bar({0, -h, 0}, {0, h, 0}, 0.034f, 0.026f, -0.006f);
-  bar({0, 0.02f, -w}, {0, 0.02f, w}, 0.034f, 0.026f, -0.005f);
+  bar({0, -kH - 0.05f, -kW}, {0, kH + 0.05f, -kW}, 0.10f, 0.028f, 0.025f);
+  bar({0, -kH - 0.05f, kW}, {0, kH + 0.05f, kW}, 0.10f, 0.028f, 0.026f);
+  bar({0, kH, -kW - 0.09f}, {0, kH, kW + 0.09f}, 0.11f, 0.030f, 0.032f);
+  bar({0, -kH, -kW - 0.10f}, {0, -kH, kW + 0.10f}, 0.06f, 0.085f, 0.05f);
+  bar({0, -kH, 0}, {0, kH, 0}, 0.034f, 0.026f, -0.006f);
+  bar({0, 0.02f, -kW}, {0, 0.02f, kW}, 0.034f, 0.026f, -0.005f);
   for (int i = 0; i < 4; ++i) {
-    const float z0 = z + (i % 2 == 0 ? -w : 0.0f);
-    const float y0 = y + (i / 2 == 0 ? -h : 0.0f);
+    const float z0 = z + (i % 2 == 0 ? -kW : 0.0f);
+    const float y0 = kY + (i / 2 == 0 ? -kH : 0.0f);
     const float seed = random.Unit();
     const auto p = [&](float a, float b) {
-      return mesh.Add({{-0.012f, y0 + b * h, z0 + a * w}, {}, a, b});
+      return mesh.Add({{-0.012f, y0 + b * kH, z0 + a * kW}, {}, a, b});
     };
     mesh.Quad(p(0, 0), p(1, 0), p(1, 1), p(0, 1), Material::kGlass, seed);
   }

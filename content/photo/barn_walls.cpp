@@ -20,24 +20,24 @@ void AddInside(Mesh& mesh) {
     mesh.Quad(mesh.Add({a, {}, 0, 0}), mesh.Add({b, {}, 1, 0}), mesh.Add({c, {}, 1, 1}),
               mesh.Add({d, {}, 0, 1}), Material::kDark, 0);
   };
-  constexpr float in = 0.06f;
-  const float left = -kBarnWidth + in;
-  const float back = -kBarnLength + in;
+  constexpr float kIn = 0.06f;
+  const float left = -kBarnWidth + kIn;
+  const float back = -kBarnLength + kIn;
   const float low = -0.2f;
   const float high = kEaveHeight + 0.05f;
   const float door = kDoorCentre + kDoorWidth / 2;
-  wall({left, low, -in}, {kDoorCentre - kDoorWidth / 2, low, -in},
-       {kDoorCentre - kDoorWidth / 2, high, -in}, {left, high, -in});
-  wall({door, low, -in}, {-in, low, -in}, {-in, high, -in}, {door, high, -in});
-  wall({kDoorCentre - kDoorWidth / 2, kDoorHeight, -in}, {door, kDoorHeight, -in},
-       {door, high, -in}, {kDoorCentre - kDoorWidth / 2, high, -in});
-  wall({left, high, -in}, {-in, high, -in}, {-kBarnWidth / 2, kRidgeHeight, -in},
-       {-kBarnWidth / 2, kRidgeHeight, -in});
-  wall({left, high, back}, {-in, high, back}, {-kBarnWidth / 2, kRidgeHeight, back},
+  wall({left, low, -kIn}, {kDoorCentre - kDoorWidth / 2, low, -kIn},
+       {kDoorCentre - kDoorWidth / 2, high, -kIn}, {left, high, -kIn});
+  wall({door, low, -kIn}, {-kIn, low, -kIn}, {-kIn, high, -kIn}, {door, high, -kIn});
+  wall({kDoorCentre - kDoorWidth / 2, kDoorHeight, -kIn}, {door, kDoorHeight, -kIn},
+       {door, high, -kIn}, {kDoorCentre - kDoorWidth / 2, high, -kIn});
+  wall({left, high, -kIn}, {-kIn, high, -kIn}, {-kBarnWidth / 2, kRidgeHeight, -kIn},
+       {-kBarnWidth / 2, kRidgeHeight, -kIn});
+  wall({left, high, back}, {-kIn, high, back}, {-kBarnWidth / 2, kRidgeHeight, back},
        {-kBarnWidth / 2, kRidgeHeight, back});
-  wall({-in, low, -in}, {-in, low, back}, {-in, high, back}, {-in, high, -in});
-  wall({left, low, -in}, {left, low, back}, {left, high, back}, {left, high, -in});
-  wall({left, low, back}, {-in, low, back}, {-in, high, back}, {left, high, back});
+  wall({-kIn, low, -kIn}, {-kIn, low, back}, {-kIn, high, back}, {-kIn, high, -kIn});
+  wall({left, low, -kIn}, {left, low, back}, {left, high, back}, {left, high, -kIn});
+  wall({left, low, back}, {-kIn, low, back}, {-kIn, high, back}, {left, high, back});
 }
 
 // A board of the long side, in two pieces where a window is in its way.

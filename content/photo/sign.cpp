@@ -70,18 +70,18 @@ float StrokeDistance(const Stroke& s, float x, float y) {
 // `height` tall, their tops at y = top.
 float TextDistance(std::string_view text, float height, float top, float x, float y) {
   const float unit = height / 6;
-  constexpr float pitch = 6.1f;
-  const float width = pitch * static_cast<float>(text.size()) - (pitch - 4);
+  constexpr float kPitch = 6.1f;
+  const float width = kPitch * static_cast<float>(text.size()) - (kPitch - 4);
   const float ux = x / unit + width * 0.5f;
   const float uy = (top - y) / unit;
   float best = 99;
-  const int at = static_cast<int>(std::floor((ux + 1) / pitch));
+  const int at = static_cast<int>(std::floor((ux + 1) / kPitch));
   for (int i = at - 1; i <= at + 1; ++i) {
     if (i < 0 || i >= static_cast<int>(text.size())) continue;
     for (const Letter& letter : kLetters) {
       if (letter.name != text[static_cast<std::size_t>(i)]) continue;
       for (std::size_t k = 0; k < static_cast<std::size_t>(letter.strokes); ++k)
-        best = Min(best, StrokeDistance(letter.stroke[k], ux - pitch * static_cast<float>(i), uy));
+        best = Min(best, StrokeDistance(letter.stroke[k], ux - kPitch * static_cast<float>(i), uy));
     }
   }
   return best * unit;

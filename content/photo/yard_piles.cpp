@@ -13,9 +13,9 @@ namespace {
 void AddLog(Mesh& mesh, Vec3 centre, float length, float radius, float kept, float turn,
             Random& random) {
   const float seed = random.Unit();
-  constexpr int sides = 14;
+  constexpr int kSides = 14;
   const auto outline = [&](int i) {
-    const float a = turn + 2 * kPi * kept * static_cast<float>(i) / sides;
+    const float a = turn + 2 * kPi * kept * static_cast<float>(i) / kSides;
     const float r = radius * (1 + 0.07f * Noise2(Cos(a) * 1.5f + seed * 30, Sin(a) * 1.5f));
     return Vec3{0, r * Sin(a), r * Cos(a)};
   };
@@ -34,17 +34,17 @@ void AddLog(Mesh& mesh, Vec3 centre, float length, float radius, float kept, flo
               material, seed);
   };
   const auto heart = mesh.Add({end(front, {}), {}, 0, 0});
-  for (int i = 0; i < sides; ++i) {
+  for (int i = 0; i < kSides; ++i) {
     const Vec3 a = outline(i);
     const Vec3 b = outline(i + 1);
-    const float arc = 2 * kPi * radius * kept / sides;
+    const float arc = 2 * kPi * radius * kept / kSides;
     side(a, b, Material::kBark, arc * static_cast<float>(i), arc * static_cast<float>(i + 1));
     mesh.Face(heart, mesh.Add({end(front, a), {}, a.z, a.y}),
               mesh.Add({end(front, b), {}, b.z, b.y}), Material::kLogEnd, seed);
   }
   if (kept < 0.99f) {
     side({}, outline(0), Material::kBareWood, 0, radius);
-    side(outline(sides), {}, Material::kBareWood, 0, radius);
+    side(outline(kSides), {}, Material::kBareWood, 0, radius);
   }
 }
 
@@ -108,24 +108,24 @@ Mesh MakeBoardPile() {
 Mesh MakeSign() {
   Mesh mesh;
   // Pressed tin: a sheet that bulges a little, with a rolled rim.
-  constexpr int nx = 24;
-  constexpr int ny = 14;
-  constexpr float halfX = 0.47f;
-  constexpr float halfY = 0.27f;
+  constexpr int kNx = 24;
+  constexpr int kNy = 14;
+  constexpr float kHalfX = 0.47f;
+  constexpr float kHalfY = 0.27f;
   const auto first = static_cast<std::uint32_t>(mesh.vertices.size());
-  for (int j = 0; j <= ny; ++j) {
-    for (int i = 0; i <= nx; ++i) {
-      const float x = halfX * (2 * static_cast<float>(i) / nx - 1);
-      const float y = halfY * (2 * static_cast<float>(j) / ny - 1);
-      const bool rim = i == 0 || j == 0 || i == nx || j == ny;
+  for (int j = 0; j <= kNy; ++j) {
+    for (int i = 0; i <= kNx; ++i) {
+      const float x = kHalfX * (2 * static_cast<float>(i) / kNx - 1);
+      const float y = kHalfY * (2 * static_cast<float>(j) / kNy - 1);
+      const bool rim = i == 0 || j == 0 || i == kNx || j == kNy;
       const float z = rim ? 0.0f : 0.014f + 0.003f * Noise2(x * 3, y * 3);
       mesh.Add({{x, y, z}, {}, x, y});
     }
   }
-  for (std::uint32_t j = 0; j < ny; ++j)
-    for (std::uint32_t i = 0; i < nx; ++i) {
-      const std::uint32_t at = first + j * (nx + 1) + i;
-      mesh.Quad(at, at + 1, at + nx + 2, at + nx + 1, Material::kEnamel, 0.5f);
+  for (std::uint32_t j = 0; j < kNy; ++j)
+    for (std::uint32_t i = 0; i < kNx; ++i) {
+      const std::uint32_t at = first + j * (kNx + 1) + i;
+      mesh.Quad(at, at + 1, at + kNx + 2, at + kNx + 1, Material::kEnamel, 0.5f);
     }
   return mesh;
 }

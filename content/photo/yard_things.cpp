@@ -93,18 +93,19 @@ Mesh MakeBucket() {
 
 Mesh MakeCartWheel() {
   Mesh mesh;
-  constexpr float radius = 0.55f;
+  constexpr float kRadius = 0.55f;
   const auto rim = [](float turn, float r, float x) {
-    return Vec3{r * Cos(turn), radius + r * Sin(turn), x};
+    return Vec3{r * Cos(turn), kRadius + r * Sin(turn), x};
   };
   // Felloes of wood in six pieces under an iron tyre.
   const auto band = [&](float inner, float outer, float half, Material material) {
-    constexpr int pieces = 72;
+    constexpr int kPieces = 72;
     std::uint32_t before[4] = {};
-    for (int i = 0; i <= pieces; ++i) {
-      const float turn = 2 * kPi * static_cast<float>(i) / pieces;
-      const float v = turn * radius;
-      const float seed = static_cast<float>(i * 6 / pieces) * 0.17f;
+    for (int i = 0; i <= kPieces; ++i) {
+      const float turn = 2 * kPi * static_cast<float>(i) / kPieces;
+      const float v = turn * kRadius;
+      const int felloe = i * 6 / kPieces;
+      const float seed = static_cast<float>(felloe) * 0.17f;
       const std::uint32_t now[4] = {mesh.Add({rim(turn, inner, -half), {}, 0, v}),
                                     mesh.Add({rim(turn, outer, -half), {}, 0.06f, v}),
                                     mesh.Add({rim(turn, outer, half), {}, 0.12f, v}),
@@ -124,7 +125,7 @@ Mesh MakeCartWheel() {
                                 {rim(turn, 0.47f, 0), 0.017f}};
     AddTube(mesh, spoke, 8, Material::kBareWood, static_cast<float>(i) * 0.077f);
   }
-  const auto axle = [](float z, float r) { return TubePoint{{0, radius, z}, r}; };
+  const auto axle = [](float z, float r) { return TubePoint{{0, kRadius, z}, r}; };
   const TubePoint hub[8] = {axle(-0.110f, 0.001f), axle(-0.109f, 0.062f), axle(-0.085f, 0.066f),
                             axle(-0.04f, 0.088f),  axle(0.06f, 0.088f),   axle(0.12f, 0.066f),
                             axle(0.149f, 0.060f),  axle(0.15f, 0.001f)};
