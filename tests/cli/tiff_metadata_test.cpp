@@ -51,32 +51,32 @@ const Bytes kBlock = {
 class TiffExif : public testing::Test {
  protected:
   void SetUp() override {
-    path_ = fs::temp_directory_path() / ("tarnwick-exif-" + std::to_string(getpid()) + ".tif");
+    path = fs::temp_directory_path() / ("tarnwick-exif-" + std::to_string(getpid()) + ".tif");
   }
-  void TearDown() override { fs::remove(path_); }
+  void TearDown() override { fs::remove(path); }
 
   void Write(const Bytes& bytes) {
-    std::ofstream file(path_, std::ios::binary);
+    std::ofstream file(path, std::ios::binary);
     file.write(reinterpret_cast<const char*>(bytes.data()),
                static_cast<std::streamsize>(bytes.size()));
   }
   Bytes Read() {
-    std::ifstream file(path_, std::ios::binary);
+    std::ifstream file(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
   }
 
-  fs::path path_;
+  fs::path path;
 };
 
 TEST_F(TiffExif, BecomesABlock) {
   Write(kCamera);
-  EXPECT_EQ(ExifOfTiff(path_), kBlock);
+  EXPECT_EQ(ExifOfTiff(path), kBlock);
 }
 
 TEST_F(TiffExif, BrokenFilesGiveLessAndNothingWorse) {
   for (std::size_t length = 0; length < kCamera.size(); ++length) {
     Write({kCamera.begin(), kCamera.begin() + static_cast<std::ptrdiff_t>(length)});
-    EXPECT_LE(ExifOfTiff(path_).size(), kBlock.size()) << length;
+    EXPECT_LE(ExifOfTiff(path).size(), kBlock.size()) << length;
   }
   // Every byte in turn at its largest: counts and offsets that lead nowhere, to
   // themselves, or beyond what a number holds.
@@ -84,7 +84,7 @@ TEST_F(TiffExif, BrokenFilesGiveLessAndNothingWorse) {
     Bytes bytes = kCamera;
     bytes[at] = 0xFF;
     Write(bytes);
-    EXPECT_LT(ExifOfTiff(path_).size(), 1000u) << at;
+    EXPECT_LT(ExifOfTiff(path).size(), 1000u) << at;
   }
 }
 
@@ -94,7 +94,7 @@ TEST_F(TiffExif, IsAddedWithoutMovingThePicture) {
                        0x00, 0x01, 3,  0, 1,  0,  0, 0, 3, 0, 0, 0,  //
                        0,    0,    0,  0, 77, 78, 79};
   Write(plain);
-  ASSERT_TRUE(AddMetadataToTiff(path_, kBlock, {}, 3, 1));
+  ASSERT_TRUE(AddMetadataToTiff(path, kBlock, {}, 3, 1));
   const Bytes joined = Read();
   ASSERT_GT(joined.size(), plain.size());
   // All but the pointer to the first directory stands as it was.
@@ -102,7 +102,7 @@ TEST_F(TiffExif, IsAddedWithoutMovingThePicture) {
     const bool pointer = i >= 4 && i <= 7;
     EXPECT_TRUE(pointer || joined[i] == plain[i]) << i;
   }
-  EXPECT_EQ(ExifOfTiff(path_).size(), kBlock.size());
+  EXPECT_EQ(ExifOfTiff(path).size(), kBlock.size());
 
   // A form that is not understood stays untouched: another byte order, an entry
   // of an unknown type, a second page.
@@ -112,7 +112,7 @@ TEST_F(TiffExif, IsAddedWithoutMovingThePicture) {
   unknown[12] = 99;
   for (const Bytes& other : {kCamera, page, unknown}) {
     Write(other);
-    EXPECT_FALSE(AddMetadataToTiff(path_, kBlock, {}, 3, 1));
+    EXPECT_FALSE(AddMetadataToTiff(path, kBlock, {}, 3, 1));
     EXPECT_EQ(Read(), other);
   }
 }
