@@ -5,9 +5,8 @@
 
 #include "engine/intensity_table.h"
 #include "engine/reference_masks.h"
+#include "engine/reference_pixels.h"
 #include "engine/shade_model.h"
-#include "imaging/color_blend.h"
-#include "imaging/hls_color.h"
 #include "support/images.h"
 
 namespace tarnwick::testing {
@@ -236,37 +235,9 @@ class Reference {
                     ? std::clamp((Float(intensity - 100) / 70 + 1) * (b - 127) + 127, 0.0F, 255.0F)
                     : Float(table.intensityTable[Byte(b)]);
       std::uint8_t* const pixel = &out_[4 * At(x, y)];
-      if (keepSave_ && v != 255) v = SaveThrough(pixel, &save_[4 * At(x, y)], v);
-      WashPixel(pixel, type, stain, v);
+      if (keepSave_ && v != 255) v = SaveThroughByDefinition(pixel, &save_[4 * At(x, y)], v);
+      WashByDefinition(pixel, type, stain, v);
     });
-  }
-
-  static float SaveThrough(std::uint8_t* pixel, const std::uint8_t* save, float v) {
-    const float f = v / 255;
-    for (int i = 0; i < 3; ++i) {
-      pixel[i] =
-          v == 0 ? save[i] : Byte(std::min(Float(pixel[i]) * f + Float(save[i]) * (1 - f), 255.0F));
-    }
-    return std::max(v, Float(save[3]));
-  }
-
-  static void WashPixel(std::uint8_t* pixel, int type, std::uint32_t stain, float v) {
-    if (type == 0) {
-      pixel[3] = Byte(std::min(Float(pixel[3]), v));
-      return;
-    }
-    const float f = v / 255;
-    const int c[3] = {static_cast<int>(stain & 255), static_cast<int>(stain >> 8 & 255),
-                      static_cast<int>(stain >> 16 & 255)};
-    float boosted[3] = {Float(pixel[0]), Float(pixel[1]), Float(pixel[2])};
-    BoostMix(Float(c[0]), Float(c[1]), Float(c[2]), boosted[0], boosted[1], boosted[2]);
-    for (int i = 0; i < 3; ++i) {
-      const int d = pixel[i];
-      const int effect = type == 2   ? 255 - ((255 - d) * (255 - c[i]) >> 8)
-                         : type == 3 ? static_cast<int>(boosted[i])
-                                     : d * c[i] / 255;
-      pixel[i] = Byte(std::min(Float(effect) * (1 - f) + Float(d) * f, 255.0F));
-    }
   }
 
   void Background() {
@@ -284,7 +255,7 @@ class Reference {
       high = static_cast<float>(static_cast<double>(high) - margin);
     }
     ForTexture(layers_.background, [&](int x, int y, int t) {
-      Tone(&ground[4 * At(x, y)], Float(t) / 255, low, high);
+      ToneByDefinition(s_, Float(t) / 255, low, high, &ground[4 * At(x, y)]);
     });
     const bool fill = s_.BackgroundEntire != 0 && state_.planes > 3;
     for (std::size_t i = 0; i < out_.size(); i += 4) {
@@ -300,40 +271,6 @@ class Reference {
       out_[i + 3] =
           Byte(fill ? std::max(q * 255, sourceAlpha) : std::max(Float(out_[i + 3]), sourceAlpha));
     }
-  }
-
-  void Tone(std::uint8_t* pixel, float t, float low, float high) const {
-    const bool dark = t <= 0.65F;
-    const float w = dark ? (0.65F - t) * 1.5384616F : (t - 0.65F) * 2.857143F;
-    const std::uint32_t outer = dark ? s_.BackgroundShadowColor : s_.BackgroundHighlightColor;
-    int c[3];
-    for (int i = 0; i < 3; ++i) {
-      c[i] = static_cast<int>(Float(outer >> 8 * i & 255) * w +
-                              Float(s_.BackgroundMidtoneColor >> 8 * i & 255) * (1 - w));
-    }
-    const float hue = Float(s_.BackgroundHue) * 1.275F;
-    const float saturation = Float(s_.BackgroundMidtone) / 100;
-    const bool enhanced = (s_.BackgroundEnhancedMode & 255) != 0;
-    if (hue != 0 || saturation != 1 || enhanced) {
-      HlsColor k = RgbToHls(c[0], c[1], c[2]);
-      k.hue = static_cast<int>(Float(k.hue) + hue);
-      k.saturation = static_cast<int>(Float(k.saturation) * saturation);
-      if (enhanced && t < low) {
-        const float f = std::max(1 - (low - t) * 4, 0.0F);
-        k.saturation = static_cast<int>(Float(k.saturation) * f);
-        k.lightness = static_cast<int>(Float(k.lightness) * f);
-      } else if (enhanced && t > high) {
-        const float f = (t - high) * 5 + 1;
-        k.saturation = std::min(static_cast<int>(Float(k.saturation) * f), 240);
-        k.lightness = std::min(static_cast<int>(Float(k.lightness) * f), 240);
-      }
-      const RgbColor rgb = HlsToRgb(k.hue, k.lightness, k.saturation);
-      c[0] = rgb.red;
-      c[1] = rgb.green;
-      c[2] = rgb.blue;
-    }
-    for (int i = 0; i < 3; ++i) pixel[i] = static_cast<std::uint8_t>(std::clamp(c[i], 0, 255));
-    pixel[3] = 255;
   }
 
   const RenderState& state_;
