@@ -25,7 +25,6 @@ ApplyOutcome CheckJob(const PictureJob& job) {
       job.out == nullptr) {
     return ApplyOutcome::kBadPicture;
   }
-  if (job.mode == ImageMode::kCmyk && job.converter == nullptr) return ApplyOutcome::kNoConverter;
   return ApplyOutcome::kDone;
 }
 
@@ -65,15 +64,17 @@ void Begin(RunData& run, const PictureJob& job, int renderWidth, int renderHeigh
 ApplyOutcome RenderAll(RunData& run, EffectSettings& settings, SettingsSession& session,
                        const PictureJob& job, ViewMode view) {
   RenderState& state = run.state;
+  if (view == ViewMode::kOriginal) {
+    CopyOriginal(state, job);
+    return ApplyOutcome::kDone;
+  }
   ApplyOutcome outcome = FetchSource(state, job);
   if (outcome != ApplyOutcome::kDone) return outcome;
   state.progress.Report(10);
-  if (view != ViewMode::kOriginal) {
-    CreateLayers(run.layers, state, settings, session);
-    RenderPipeline(run.layers, state, settings, view);
-  }
+  CreateLayers(run.layers, state, settings, session);
+  RenderPipeline(run.layers, state, settings, view);
   outcome = WriteResult(state, job);
-  state.progress.Report(100, 0);
+  state.progress.Report(state.progress.base, 0);
   return outcome;
 }
 

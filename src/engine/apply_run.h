@@ -54,7 +54,7 @@ enum class ApplyOutcome {
   kDone,
   kUnsupportedMode,  // `mode` is none of the above; `out` untouched
   kBadPicture,       // a size or a pointer that cannot be; `out` untouched
-  kNoConverter,      // CMYK without a converter, or it failed; `out` untouched
+  kNoConverter,      // CMYK without one (`out` untouched), or it failed at some row
   kOutOfMemory,      // not even the two working copies or a row; `out` untouched
 };
 

@@ -62,14 +62,14 @@ void ResetBackgroundLayerColors(EffectLayer& background) {
 }
 
 void RotateLayerClockwise(EffectLayer& layer, RenderState& state) {
-  layer.angle = (layer.angle + 90) % 360;
+  layer.angle = (layer.angle % 360 + 90) % 360;
   ImagePtr turned;
   if (RotateClockwise(turned, layer.texture.get(), state.pool)) layer.texture = turned;
   Prepare(layer, state);
 }
 
 void RotateLayerCounterClockwise(EffectLayer& layer, RenderState& state) {
-  layer.angle -= 90;
+  layer.angle = layer.angle % 360 - 90;
   if (layer.angle < 0) layer.angle += 360;
   layer.angle %= 360;
   ImagePtr turned;

@@ -101,6 +101,7 @@ std::vector<std::uint8_t> ConversionRow(int width) {
 
 ApplyOutcome FetchSource(RenderState& state, const PictureJob& job) {
   state.progress.Report(0);
+  if (state.isCmyk && job.converter == nullptr) return ApplyOutcome::kNoConverter;
   const std::size_t bytes = state.PixelCount() * 4;
   if (!state.sourcePixels.Allocate(bytes) || !state.outputPixels.Allocate(bytes)) {
     return ApplyOutcome::kOutOfMemory;
@@ -131,6 +132,22 @@ ApplyOutcome FetchSource(RenderState& state, const PictureJob& job) {
   std::memcpy(state.outputPixels.Data(), state.sourcePixels.Data(), bytes);
   state.progress.Report(5);
   return ApplyOutcome::kDone;
+}
+
+void CopyOriginal(const RenderState& state, const PictureJob& job) {
+  const std::vector<int> columns =
+      SampleAxis(state.viewOriginX, state.renderWidth, state.viewScale, job.width);
+  const std::vector<int> rows =
+      SampleAxis(state.viewOriginY, state.renderHeight, state.viewScale, job.height);
+  const auto bytes = static_cast<std::size_t>(std::min(job.planes, 4));
+  for (int y = 0; y < state.renderHeight; ++y) {
+    const std::uint8_t* const in = job.in + rows[static_cast<std::size_t>(y)] * job.inRowBytes;
+    std::uint8_t* out = job.out + y * job.outRowBytes;
+    for (const int column : columns) {
+      std::memcpy(out, in + static_cast<std::ptrdiff_t>(column) * job.planes, bytes);
+      out += job.planes;
+    }
+  }
 }
 
 ApplyOutcome WriteResult(const RenderState& state, const PictureJob& job) {

@@ -16,8 +16,13 @@ namespace tarnwick {
 // so transparency turns black.
 [[nodiscard]] ApplyOutcome WriteResult(const RenderState& state, const PictureJob& job);
 
+// Samples the picture's own first planes, four at most, into `job.out` for the
+// window of `state`, without a conversion.
+void CopyOriginal(const RenderState& state, const PictureJob& job);
+
 // One byte a pixel of the whole document, job.width a row: alpha (255 below 4
-// planes, else the fourth sample) times the selection, / 255 truncated. False
+// planes, else the fourth sample, which in a CMYK picture is its black) times the
+// selection, / 255 truncated. False
 // without memory.
 [[nodiscard]] bool BuildSelectionPlane(const PictureJob& job, PageBuffer<std::uint8_t>& plane);
 

@@ -4,6 +4,7 @@
 
 #include "engine/background_render.h"
 #include "engine/plain_copy.h"
+#include "engine/render_buffers.h"
 #include "engine/surface_render.h"
 #include "engine/wash_edge.h"
 #include "engine/wash_render.h"
@@ -74,7 +75,7 @@ void RunSurfaces(const Run& run) {
   const bool second = run.settings.SecondSurfaceExists != 0 && run.Shows(ViewMode::kSurfaceTwo) &&
                       PrepareSurface(run, 1);
   run.Reach(30);
-  if (!first && !second) {
+  if ((!first && !second) || !BeginSurfaceResult(state)) {
     CopySourceToOutput(run.layers, state, run.settings);
     return;
   }
@@ -141,7 +142,10 @@ void RenderPipeline(EffectLayers& layers, RenderState& state, const EffectSettin
     RunWashes(run);
   }
   run.Reach(70);
-  if (state.layerOutputMode == LayerOutputMode::kSurfaceAlone) return;
+  if (state.layerOutputMode == LayerOutputMode::kSurfaceAlone) {
+    state.progress.Report(state.progress.base);
+    return;
+  }
   if (settings.BackgroundUse != 0) RunBackground(run);
   run.Reach(100);
 }

@@ -71,12 +71,19 @@ void TakeRow(const RenderState& state, const Area& area, int y, std::uint8_t* ou
   }
 }
 
+// Nothing without the first surface's texture, whichever is shown.
+Area CoveredArea(const EffectLayers& layers, const EffectLayer& layer, const RenderState& state) {
+  if (layers.surfaces[0].working == nullptr || layer.working == nullptr) return {0, 0};
+  return {std::min(layer.working->Width(), state.renderWidth),
+          std::min(layer.working->Height(), state.renderHeight)};
+}
+
 SurfaceLook LookOf(const RenderState& state, const EffectSettings& settings, std::uint8_t type) {
   SurfaceLook look;
   look.shade = ShadeLookOf(settings, type);
   look.intensity = static_cast<float>(settings.SurfaceIntensity) / 100.0F;
   look.entire = state.surfaceEntire;
-  look.keepSave = state.keepSurfaceSave && state.surfaceSave;
+  look.keepSave = state.keepSurfaceSave;
   if (state.layerOutputMode == LayerOutputMode::kSurfaceAlone) {
     look.output = SurfaceOutput::kPure;
   } else if (state.layerOutputMode == LayerOutputMode::kSurfaceLeftOut) {
@@ -91,22 +98,10 @@ void ComposeSurface(EffectLayers& layers, RenderState& state, const EffectSettin
                     const ReliefHeights& heights) {
   if (!state.surfaceStale) return;
   state.surfaceStale = false;
-  if (layers.surfaces[0].working == nullptr) return;
   const bool secondAlone = state.previewMode && state.view == ViewMode::kSurfaceTwo;
   const EffectLayer& layer = layers.surfaces[secondAlone ? 1 : 0];
-  std::uint8_t* const result = state.SurfaceResult();
-  if (layer.working == nullptr || result == nullptr || !state.sourcePixels || !state.outputPixels) {
-    return;
-  }
-  const Area area{std::min(layer.working->Width(), state.renderWidth),
-                  std::min(layer.working->Height(), state.renderHeight)};
-  if (area.width <= 0 || area.height <= 0) return;
-
-  state.surfaceEntire = settings.SurfaceEntire != 0;
-  const SurfaceLook look = LookOf(state, settings, layer.surfaceType);
-  const SurfaceLight light = LightOf(settings, state.viewScale);
-  const Perspective perspective(settings, state.viewScale);
-  const bool displaces = settings.SurfacePerspectiveOn != 0;
+  const Area area = CoveredArea(layers, layer, state);
+  // Made even if there is nothing to cover: a wash needs its samples, 0 then.
   EdgeSampler edges[2];
   if (settings.WashUse != 0 || state.deferWash) {
     edges[0] = EdgeSampler(layers.washes[0], state, area.width, area.height);
@@ -114,6 +109,17 @@ void ComposeSurface(EffectLayers& layers, RenderState& state, const EffectSettin
       edges[1] = EdgeSampler(layers.washes[1], state, area.width, area.height);
     }
   }
+  std::uint8_t* const result = state.SurfaceResult();
+  if (area.width <= 0 || area.height <= 0 || result == nullptr || !state.sourcePixels ||
+      !state.outputPixels) {
+    return;
+  }
+
+  state.surfaceEntire = settings.SurfaceEntire != 0;
+  const SurfaceLook look = LookOf(state, settings, layer.surfaceType);
+  const SurfaceLight light = LightOf(settings, state.viewScale);
+  const Perspective perspective(settings, state.viewScale);
+  const bool displaces = settings.SurfacePerspectiveOn != 0;
   const auto surfaceRow = state.isa == Isa::kAvx2 ? SurfaceRowAvx2 : SurfaceRowPlain;
 
   ForRowsReporting(state.pool, &state.progress, area.height, [&](int first, int last) {
@@ -130,7 +136,8 @@ void ComposeSurface(EffectLayers& layers, RenderState& state, const EffectSettin
       } else {
         TakeRow(state, area, y, pixels.data());
       }
-      std::uint8_t* const save = look.keepSave ? state.surfaceSave.Data() + at : nullptr;
+      std::uint8_t* const save =
+          look.keepSave && state.surfaceSave ? state.surfaceSave.Data() + at : nullptr;
       surfaceRow({lit.data(), pixels.data(), result + at, save, area.width}, look);
       for (EdgeSampler& edge : edges) {
         if (!displaces) {

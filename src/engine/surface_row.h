@@ -17,12 +17,12 @@ struct SurfaceLook {
   float intensity = 1;  // of the blend, 0..1
   SurfaceOutput output = SurfaceOutput::kBlend;
   bool entire = false;    // the tone colour fills what is transparent
-  bool keepSave = false;  // and is written to `save` too
+  bool keepSave = false;  // and is kept: `save` has its alpha then
 };
 
 // One row of `width` pixels. `light` is the brightness, `pixels` the picture with
-// the alpha that counts. Writes `out`, and `save` if look.keepSave and
-// look.entire ask for it; all but the light 4 bytes a pixel.
+// the alpha that counts. Writes `out`, and `save`, which may be null, if
+// look.entire asks for it; all but the light 4 bytes a pixel.
 struct SurfaceRow {
   const float* light;
   const std::uint8_t* pixels;

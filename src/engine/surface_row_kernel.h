@@ -149,7 +149,7 @@ inline void WriteEntire(const SurfaceRow& row, const Planes& p, const SurfaceLoo
     const std::int32_t pure[3] = {PureTone(p.t0[x]), PureTone(p.t1[x]), PureTone(p.t2[x])};
     const std::int32_t top = std::max({pure[0], pure[1], pure[2]});
     const int alpha = pixels[4 * x + 3];
-    if (look.keepSave) {
+    if (row.save != nullptr) {
       std::uint8_t* const save = row.save + 4 * x;
       for (int c = 0; c < 3; ++c) save[c] = static_cast<std::uint8_t>(pure[c]);
       save[3] = static_cast<std::uint8_t>(top);
@@ -173,7 +173,7 @@ inline void WriteEntire(const SurfaceRow& row, const Planes& p, const SurfaceLoo
 inline void WriteSource(const SurfaceRow& row, const SurfaceLook& look) {
   const auto bytes = static_cast<std::ptrdiff_t>(row.width) * 4;
   std::copy_n(row.pixels, bytes, row.out);
-  if (look.entire && look.keepSave) std::fill_n(row.save, bytes, std::uint8_t{0});
+  if (look.entire && row.save != nullptr) std::fill_n(row.save, bytes, std::uint8_t{0});
 }
 
 inline void SurfacePart(const SurfaceRow& row, const SurfaceLook& look) {

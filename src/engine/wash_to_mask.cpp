@@ -41,9 +41,9 @@ float SaveThroughPixel(std::uint8_t* pixel, const std::uint8_t* save, float v) {
 
 void RenderWashToMask(EffectLayer& layer, RenderState& state, const MaskTarget& target) {
   if (!HasTexture(layer, state)) return;
+  if (target.planes < (state.isCmyk ? 6 : 5) || target.pixels == nullptr) return;
   const ProgressShare whole(state.progress, state.progress.base, state.progress.budget);
   RefreshWash(layer, state);
-  if (target.planes < (state.isCmyk ? 6 : 5) || target.pixels == nullptr) return;
 
   WashInputs inputs = InputsOf(layer, state);
   const bool useEdge = layer.edgeDistanceSquared != 0 || layer.edgeBlurRadius != 0;
@@ -53,7 +53,10 @@ void RenderWashToMask(EffectLayer& layer, RenderState& state, const MaskTarget& 
   }
   const int width = std::min(inputs.width, target.width);
   const int height = std::min(inputs.height, target.height);
-  const std::uint8_t* const save = state.keepSurfaceSave ? state.surfaceSave.Data() : nullptr;
+  const std::uint8_t* const save =
+      state.keepSurfaceSave && state.surfaceSave.Size() >= state.PixelCount() * 4
+          ? state.surfaceSave.Data()
+          : nullptr;
   ForRowsReporting(state.pool, &state.progress, height, [&](int first, int last) {
     for (int y = first; y < last; ++y) {
       std::uint8_t* pixel = target.pixels + y * target.rowBytes;

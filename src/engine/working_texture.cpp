@@ -74,18 +74,19 @@ void PrepareForPreview(EffectLayer& layer, RenderState& state) {
   }
 }
 
-// Cuts away what lies above and to the left of the offset.
+// Cuts away what lies above and to the left of the offset. An offset beyond the
+// texture, which a turn can leave behind, cuts all of it away: the image is then
+// without pixels, and the effect leaves the picture alone.
 void CutAtOffset(EffectLayer& layer) {
   if (layer.offsetY <= 0 && layer.offsetX < 1) return;
   const RasterImage& texture = *layer.texture;
   Rect bounds = texture.bounds;
-  bounds.top = std::max(layer.offsetY, bounds.top);
-  bounds.left = std::max(layer.offsetX, bounds.left);
-  if (bounds.Width() <= 0 || bounds.Height() <= 0) return;
+  bounds.top = std::clamp(layer.offsetY, bounds.top, bounds.bottom);
+  bounds.left = std::clamp(layer.offsetX, bounds.left, bounds.right);
   ImagePtr cut = MakeGrayImage(bounds, 0);
   const Rect part{bounds.top - texture.bounds.top, bounds.left - texture.bounds.left,
                   texture.Height(), texture.Width()};
-  if (!CopyRegion(*cut, texture, part)) return;
+  (void)CopyRegion(*cut, texture, part);
   layer.texture = cut;
   layer.working = std::move(cut);
 }
