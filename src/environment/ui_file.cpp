@@ -1,0 +1,91 @@
+#include "environment/ui_file.h"
+
+#include <array>
+#include <cstdio>
+#include <memory>
+
+#include "presets/preset_lines.h"
+
+namespace tarnwick {
+namespace {
+
+struct CloseFile {
+  void operator()(std::FILE* file) const { std::fclose(file); }
+};
+using File = std::unique_ptr<std::FILE, CloseFile>;
+
+constexpr std::size_t kLongestFile = 1U << 20;
+
+std::string ReadAll(const std::string& path) {
+  std::string bytes;
+  const File file(std::fopen(path.c_str(), "rb"));
+  if (file == nullptr) return bytes;
+  std::array<char, 4096> part{};
+  while (bytes.size() < kLongestFile) {
+    const std::size_t got = std::fread(part.data(), 1, part.size(), file.get());
+    if (got == 0) break;
+    bytes.append(part.data(), got);
+  }
+  return bytes;
+}
+
+// Where the value of a key lives; null for a key that is none of ours.
+std::int32_t* PlaceOf(std::uint32_t key, EffectSettings& settings, UiValues& values) {
+  switch (key) {
+    case PresetKey("tfeL"):
+      return &settings.WindowLeft;
+    case PresetKey(" poT"):
+      return &settings.WindowTop;
+    case PresetKey("htdW"):
+      return &settings.WindowWidth;
+    case PresetKey("thgH"):
+      return &settings.WindowHeight;
+    case PresetKey("tlsR"):
+      return &values.resolutionOfSharing;
+    case PresetKey("nSsU"):
+      return &values.useSound;
+    default:
+      return nullptr;
+  }
+}
+
+}  // namespace
+
+void LoadUiFile(const std::string& path, EffectSettings& settings, UiValues& values) {
+  const std::string bytes = ReadAll(path);
+  PresetSource source{bytes, 0};
+  PresetLine line;
+  while (ReadPresetLine(source, line)) {
+    PresetCursor cursor(line);
+    cursor.SkipBlanks();
+    const std::uint32_t key = cursor.TakeKey();
+    if (key == 0) continue;
+    std::int32_t* const place = PlaceOf(key, settings, values);
+    if (place == nullptr) continue;
+    cursor.SkipBlanks();
+    *place = cursor.TakeInteger();
+  }
+}
+
+void SaveUiFile(const std::string& path, const EffectSettings& settings, const UiValues& values) {
+  const File file(std::fopen(path.c_str(), "wb"));
+  if (file == nullptr) return;
+  std::fputs(";Parameters for TarnwickStudio plug-in UI\n", file.get());
+  const struct {
+    const char* key;
+    std::int32_t value;
+    const char* comment;
+  } lines[] = {
+      {"tfeL", settings.WindowLeft, "\t\t\t\t;Left of window"},
+      {" poT", settings.WindowTop, "\t\t\t\t;Top of window"},
+      {"htdW", settings.WindowWidth, "\t\t\t\t;Width of window"},
+      {"thgH", settings.WindowHeight, "\t\t\t\t;Height of window"},
+      {"tlsR", values.resolutionOfSharing, "\t\t\t\t;Resolution of sharing"},
+      {"nSsU", values.useSound, "\t\t\t\t;Use sound for Auto"},
+  };
+  for (const auto& line : lines) {
+    std::fprintf(file.get(), "%s %d %s\n", line.key, static_cast<int>(line.value), line.comment);
+  }
+}
+
+}  // namespace tarnwick

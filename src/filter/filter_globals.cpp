@@ -1,0 +1,10 @@
+#include "filter/filter_globals.h"
+
+namespace tarnwick {
+
+FilterGlobals& Globals() {
+  static FilterGlobals globals;
+  return globals;
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,209 @@
+#include "filter/render_effects.h"
+
+#include <cstring>
+
+#include "base/checked_size.h"
+#include "engine/apply_run.h"
+#include "engine/picture_io.h"
+#include "engine/render_layers.h"
+#include "engine/render_pipeline.h"
+#include "environment/platform_calls.h"
+#include "filter/host_colors.h"
+#include "filter/host_rects.h"
+#include "filter/layer_passes.h"
+#include "filter/pass_through.h"
+#include "filter/selectors.h"
+
+namespace tarnwick {
+namespace {
+
+class HostProgress : public ProgressSink {
+ public:
+  explicit HostProgress(host::ProgressProc progress) : progress_(progress) {}
+  void Report(int done, int total) override {
+    if (progress_ != nullptr) progress_(done, total);
+  }
+
+ private:
+  host::ProgressProc progress_;
+};
+
+class BoxAlerts : public TextureAlerts {
+ public:
+  explicit BoxAlerts(void* owner) : owner_(owner) {}
+  void TextureAlert(const std::string& text) override { ShowAlertBox(text, owner_); }
+  void TextureFault(const std::string& text) override { WriteComplaint(text); }
+
+ private:
+  void* owner_;
+};
+
+bool IsSupported(std::int16_t mode) {
+  return mode == host::plugInModeRGBColor || mode == host::plugInModeRGB48 ||
+         mode == host::plugInModeCMYKColor || mode == host::plugInModeCMYK64;
+}
+
+// The record's buffers as a job. Samples of a 16-bit document are taken as bytes
+// of rows half as long; such documents get no other treatment.
+PictureJob JobOf(const host::FilterRecord& record) {
+  const Rect rect = GetOutRect(record);
+  const bool is16Bit = record.depth == 16;
+  PictureJob job;
+  job.width = rect.Width();
+  job.height = rect.Height();
+  job.planes = record.planes;
+  job.mode = static_cast<ImageMode>(record.imageMode);
+  job.in = static_cast<const std::uint8_t*>(record.inData);
+  job.out = static_cast<std::uint8_t*>(record.outData);
+  job.inRowBytes = is16Bit ? record.inRowBytes / 2 : record.inRowBytes;
+  job.outRowBytes = is16Bit ? record.outRowBytes / 2 : record.outRowBytes;
+  if (record.haveMask != 0 && record.maskData != nullptr) {
+    job.selection = static_cast<const std::uint8_t*>(record.maskData);
+    job.selectionRowBytes = record.maskRowBytes;
+  }
+  return job;
+}
+
+void BeginState(FilterGlobals& g, const PictureJob& job, Progress progress) {
+  RenderState& state = g.render;
+  state = RenderState{};
+  state.renderWidth = state.documentWidth = job.width;
+  state.renderHeight = state.documentHeight = job.height;
+  state.renderRowBytes = job.width * 4;
+  state.planes = job.planes;
+  // The 64-bit form goes through as if it were RGB.
+  state.isCmyk = job.mode == ImageMode::kCmyk;
+  state.hasSelection = job.selection != nullptr;
+  state.selection = job.selection;
+  state.selectionRowBytes = job.selectionRowBytes;
+  state.textureFolder = job.textureFolder;
+  state.alerts = job.alerts;
+  state.pool = job.pool;
+  state.progress = progress;
+  g.selectionPlane.Free();
+  if ((state.hasSelection || job.planes > 3) && BuildSelectionPlane(job, g.selectionPlane)) {
+    state.selectionPlane = g.selectionPlane.Data();
+  }
+}
+
+// Gives the run's images back when it ends, whichever way.
+class RunEnd {
+ public:
+  explicit RunEnd(FilterGlobals& g) : g_(g) {}
+  ~RunEnd() {
+    DestroyLayers(g_.layers, g_.render);
+    g_.layers = EffectLayers{};
+    g_.render = RenderState{};
+    g_.selectionPlane.Free();
+  }
+  RunEnd(const RunEnd&) = delete;
+  RunEnd& operator=(const RunEnd&) = delete;
+
+ private:
+  FilterGlobals& g_;
+};
+
+// The user's switches, which a pass may turn off while it lasts. What the layers
+// derive from the texture names stays.
+class SwitchesBack {
+ public:
+  SwitchesBack(FilterGlobals& g, const PassPlan& plan) : g_(g), plan_(plan) {}
+  ~SwitchesBack() {
+    if (plan_.backgroundHeld) g_.gParams->BackgroundUse = 1;
+    if (g_.render.deferWash) g_.gParams->WashUse = 1;
+  }
+  SwitchesBack(const SwitchesBack&) = delete;
+  SwitchesBack& operator=(const SwitchesBack&) = delete;
+
+ private:
+  FilterGlobals& g_;
+  const PassPlan& plan_;
+};
+
+host::OSErr ErrorOf(ApplyOutcome outcome) {
+  // A host without the colour space suite gets its picture back untouched, and
+  // no error.
+  if (outcome == ApplyOutcome::kDone || outcome == ApplyOutcome::kNoConverter) return host::noErr;
+  return outcome == ApplyOutcome::kBadPicture ? host::filterBadParameters : host::memFullErr;
+}
+
+ApplyOutcome RenderPass(FilterGlobals& g, const PictureJob& job, PassPlan& plan) {
+  RenderState& state = g.render;
+  EffectSettings& settings = *g.gParams;
+  const ApplyOutcome fetched = FetchSource(state, job);
+  if (fetched != ApplyOutcome::kDone) return fetched;
+  state.progress.Report(10);
+  CreateLayers(g.layers, state, settings, g.session);
+  DecideBackground(g, plan);
+  DecideMask(g, plan);
+  if (plan.writesMask) {
+    WriteMask(g, job);
+    return ApplyOutcome::kDone;
+  }
+  {
+    const SwitchesBack back(g, plan);
+    RenderPipeline(g.layers, state, settings, plan.view);
+  }
+  settings.LinkNewBackground = 0;
+  settings.LinkNewSurface = 0;
+  const ApplyOutcome written = WriteResult(state, job);
+  state.progress.Report(state.progress.base, 0);
+  KeepForLaterPass(g);
+  return written;
+}
+
+}  // namespace
+
+void CopyInputToOutput(const PictureJob& job) {
+  const auto bytes = static_cast<std::size_t>(job.width) * static_cast<std::size_t>(job.planes);
+  for (int y = 0; y < job.height; ++y) {
+    std::memmove(job.out + y * job.outRowBytes, job.in + y * job.inRowBytes, bytes);
+  }
+}
+
+void RenderEffects(FilterGlobals& g) {
+  const host::FilterRecord& record = *g.gFilterRecord;
+  if (!IsSupported(record.imageMode)) {
+    *g.gResult = host::userCanceledErr;
+    ShowWarningBox("This Mode is Not Supported by the Plug-in");
+    return;
+  }
+  PictureJob job = JobOf(record);
+  if (!IsPictureSize(job.width, job.height) || job.planes < 1 || job.in == nullptr ||
+      job.out == nullptr) {
+    *g.gResult = host::filterBadParameters;
+    return;
+  }
+  HostProgress sink(record.progressProc);
+  BoxAlerts alerts(g.ownerWindow);
+  HostRowConverter converter(job.mode == ImageMode::kCmyk ? g.gBasicSuite : nullptr);
+  HostColorServices colors(record.colorServices);
+  ThreadPool pool(0);
+  job.alerts = &alerts;
+  job.pool = &pool;
+  job.converter = converter.IsThere() ? &converter : nullptr;
+  job.textureFolder = g.folders.dataFolder;
+  Progress progress;
+  progress.sink = &sink;
+
+  LoadUiFile(UiFilePath(g), *g.gParams, g.ui);
+  g.render.layerOutputMode = LayerOutputMode::kNormal;
+  PassPlan plan = RoutePass(g);
+  if (plan.passThrough) {
+    CopyInputToOutput(job);
+    progress.Report(100, 0);
+    *g.gResult = host::noErr;
+    return;
+  }
+  g.gParams->LinkNewLayer = 0;
+  const LayerOutputMode mode = g.render.layerOutputMode;
+  const RunEnd end(g);
+  BeginState(g, job, progress);
+  g.render.layerOutputMode = mode;
+  g.render.colorServices = &colors;
+  ApplyOutcome outcome = ApplyOutcome::kNoConverter;
+  if (job.mode != ImageMode::kCmyk || job.converter != nullptr) outcome = RenderPass(g, job, plan);
+  *g.gResult = ErrorOf(outcome);
+}
+
+}  // namespace tarnwick
