@@ -1,0 +1,53 @@
+#pragma once
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string>
+
+namespace tarnwick::testhost {
+
+struct HostLog;
+
+// The way into the filter module: linked in, or a file that is loaded. What only
+// one of the two can do is asked for first.
+class ModuleEntry {
+ public:
+  virtual ~ModuleEntry() = default;
+
+  // Where the module lies, its name included; its data folder is found from it.
+  // Load does nothing when it is loaded. Throws std::runtime_error.
+  virtual void Load(const std::string& moduleFile) = 0;
+  // Forgets all of the module's own variables.
+  virtual void Unload() = 0;
+  virtual void Call(std::int16_t selector, void* record, std::intptr_t* data,
+                    std::int16_t* result) = 0;
+  // The platform's handle of the loaded module; null when it is linked in.
+  [[nodiscard]] virtual void* Handle() const = 0;
+
+  // A dialog in the place of the module's own: each time it is to be shown, `show`
+  // is called with the settings and answers for the user. Null shows none.
+  [[nodiscard]] virtual bool TakesStandInDialog() const = 0;
+  class StandInDialog {
+   public:
+    virtual ~StandInDialog() = default;
+    virtual bool Show(void* settings) = 0;
+    virtual void ShowAbout() = 0;
+  };
+  virtual void SetDialog(StandInDialog* dialog) = 0;
+
+  // Blocks of pages that the module has taken and not given back, apart from
+  // those that it keeps on purpose for a later pass.
+  [[nodiscard]] virtual bool CountsPages() const = 0;
+  [[nodiscard]] virtual std::size_t PagesHeld() const = 0;
+  [[nodiscard]] virtual std::size_t PagesKeptForLater() const = 0;
+  virtual void DropPagesKept() = 0;
+  // The `nth` request for pages from now on fails, counting from 1, and all later
+  // ones too if `onwards`. 0: none.
+  virtual void FailPages(int nth, bool onwards) = 0;
+};
+
+// `log` takes the module's message boxes; it must outlive the entry.
+[[nodiscard]] std::unique_ptr<ModuleEntry> MakeModuleEntry(HostLog& log,
+                                                           const std::string& builtModule);
+
+}  // namespace tarnwick::testhost
