@@ -1,7 +1,7 @@
 #include "base/thread_pool.h"
 
 #include <algorithm>
-#include <system_error>
+#include <exception>
 #include <utility>
 
 namespace tarnwick {
@@ -12,8 +12,8 @@ ThreadPool::ThreadPool(int threads) {
   for (int i = 1; i < threads; ++i) {
     try {
       workers_.emplace_back([this] { WorkerLoop(); });
-    } catch (const std::system_error&) {
-      break;  // Fewer hands do the same work.
+    } catch (const std::exception&) {
+      break;  // Fewer hands do the same work, be it threads or memory that lack.
     }
   }
 }

@@ -105,7 +105,12 @@ ToneTable::value_type TonedPixel(const ToneLook& look, float t) {
 void RenderBackgroundTone(EffectLayer& layer, RenderState& state, const EffectSettings& settings) {
   if (!layer.toneDirty || layer.working == nullptr) return;
   const RasterImage& texture = *layer.working;
-  if (texture.PeekInterior() == nullptr) return;
+  if (texture.PeekInterior() == nullptr) {
+    // Nothing is left of it: nothing is toned either.
+    layer.tonedWidth = layer.tonedHeight = 0;
+    layer.toneDirty = false;
+    return;
+  }
   const Area area{texture, std::min(texture.Width(), state.renderWidth),
                   std::min(texture.Height(), state.renderHeight)};
   ToneLook look{layer,
@@ -122,6 +127,7 @@ void RenderBackgroundTone(EffectLayer& layer, RenderState& state, const EffectSe
   layer.tonedWidth = area.width;
   layer.tonedHeight = area.height;
   layer.toneDirty = false;
+  for (int y = 0; y < area.height; ++y) state.progress.ReportRow(y, area.height);
 }
 
 }  // namespace tarnwick

@@ -8,6 +8,7 @@ namespace tarnwick {
 EdgeSampler::EdgeSampler(EffectLayer& layer, const RenderState& state, int width, int height)
     : state_(&state), width_(state.renderWidth) {
   const bool coversAll = width >= state.renderWidth && height >= state.renderHeight;
+  const bool wasWhole = layer.samplesWhole;
   layer.samplesWhole = layer.edgeWhole && coversAll && !state.deferWash;
   if (layer.samplesWhole) return;
   if (!layer.edgeWhole) {
@@ -22,6 +23,8 @@ EdgeSampler::EdgeSampler(EffectLayer& layer, const RenderState& state, int width
     return;
   }
   samples_ = layer.edgeSamples.Data();
+  // What this stage does not cover keeps what the last render had there.
+  if (wasWhole) std::memset(samples_, 255, layer.edgeSamples.Size());
 }
 
 std::uint8_t EdgeSampler::At(int x, int row) const {

@@ -62,16 +62,16 @@ void ResetBackgroundLayerColors(EffectLayer& background) {
 }
 
 void RotateLayerClockwise(EffectLayer& layer, RenderState& state) {
-  layer.angle = (layer.angle % 360 + 90) % 360;
+  layer.angle = static_cast<std::int32_t>((std::int64_t{layer.angle} + 90) % 360);
   ImagePtr turned;
   if (RotateClockwise(turned, layer.texture.get(), state.pool)) layer.texture = turned;
   Prepare(layer, state);
 }
 
 void RotateLayerCounterClockwise(EffectLayer& layer, RenderState& state) {
-  layer.angle = layer.angle % 360 - 90;
-  if (layer.angle < 0) layer.angle += 360;
-  layer.angle %= 360;
+  std::int64_t angle = std::int64_t{layer.angle} - 90;
+  if (angle < 0) angle += 360;
+  layer.angle = static_cast<std::int32_t>(angle % 360);
   ImagePtr turned;
   if (RotateCounterClockwise(turned, layer.texture.get(), state.pool)) layer.texture = turned;
   Prepare(layer, state);

@@ -18,6 +18,7 @@ void BeginConfigure(EffectLayer& layer, RenderState& state, LayerKind kind) {
   state.progress.base = 0;
   state.progress.budget = 0;
   layer.edgeSamples.Free();
+  layer.samplesWhole = false;
 }
 
 void MarkStale(EffectLayer& layer) {

@@ -39,8 +39,9 @@ inline Color3 ToneOfLight(const ShadeLook& look, float t) {
   return {tone(0), tone(1), tone(2)};
 }
 
+// Truncated, then limited: what fits no int counts as the most negative one.
 inline std::int32_t PureTone(float c) {
-  return static_cast<std::int32_t>(LimitToByteRange(c));
+  return c < 2147483648.0F ? static_cast<std::int32_t>(LimitToByteRange(c)) : 0;
 }
 
 inline float Enhance(float s, float c) {

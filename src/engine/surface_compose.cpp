@@ -73,7 +73,10 @@ void TakeRow(const RenderState& state, const Area& area, int y, std::uint8_t* ou
 
 // Nothing without the first surface's texture, whichever is shown.
 Area CoveredArea(const EffectLayers& layers, const EffectLayer& layer, const RenderState& state) {
-  if (layers.surfaces[0].working == nullptr || layer.working == nullptr) return {0, 0};
+  if (layers.surfaces[0].working == nullptr || layer.working == nullptr ||
+      layer.working->PeekInterior() == nullptr) {
+    return {0, 0};
+  }
   return {std::min(layer.working->Width(), state.renderWidth),
           std::min(layer.working->Height(), state.renderHeight)};
 }

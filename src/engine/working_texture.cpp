@@ -76,7 +76,7 @@ void PrepareForPreview(EffectLayer& layer, RenderState& state) {
 
 // Cuts away what lies above and to the left of the offset. An offset beyond the
 // texture, which a turn can leave behind, cuts all of it away: the image is then
-// without pixels, and the effect leaves the picture alone.
+// without pixels, and nothing of the effect shows.
 void CutAtOffset(EffectLayer& layer) {
   if (layer.offsetY <= 0 && layer.offsetX < 1) return;
   const RasterImage& texture = *layer.texture;
