@@ -1,0 +1,5 @@
+set(CMAKE_SYSTEM_PROCESSOR x86_64)
+include("${CMAKE_CURRENT_LIST_DIR}/mingw.cmake")
+# GCC moves 32-byte vectors to a stack that 64-bit Windows aligns to 16 bytes only
+# (its bug 54412); the assembler can make those moves harmless.
+set(CMAKE_CXX_FLAGS_INIT "-Wa,-muse-unaligned-vector-move")

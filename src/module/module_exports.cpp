@@ -1,0 +1,15 @@
+// What the module shows to the outside; TarnikStudi.def gives the plain names.
+#include <windows.h>
+
+#include "filter/plugin_main.h"
+
+extern "C" void PluginMain(std::int16_t selector, void* record, std::intptr_t* data,
+                           std::int16_t* result) {
+  tarnwick::RunSelector(selector, record, data, result);
+}
+
+// The procedure of the main dialog: Windows calls it, found by name. It leaves all
+// messages to the system's own handling.
+extern "C" INT_PTR CALLBACK DissolveProc(HWND, UINT, WPARAM, LPARAM) {
+  return FALSE;
+}
