@@ -15,16 +15,6 @@ void SelectAll(Document& document) {
   document.filterRect = document.Bounds();
 }
 
-// Takes the fourth plane of a picture from another file.
-Pnm WithAlpha(const Pnm& color, const Pnm& alpha) {
-  Pnm both{color.width, color.height, 4, {}};
-  for (std::size_t i = 0; i < alpha.samples.size(); ++i) {
-    both.samples.insert(both.samples.end(), {color.samples[3 * i], color.samples[3 * i + 1],
-                                             color.samples[3 * i + 2], alpha.samples[i]});
-  }
-  return both;
-}
-
 // document MODE WxH [planes N] [from FILE [alpha FILE] | bytes from FILE]
 // Without a file it is a pattern.
 void NewDocument(ScenarioRun& run, Words& words) {
@@ -139,6 +129,22 @@ void Revert(ScenarioRun& run, Words& words) {
   for (Layer& layer : run.Host().document.layers) layer.samples = layer.original;
 }
 
+// fill planes A to B with VALUE: of the target, which has been opened so then.
+void FillPlanes(ScenarioRun& run, Words& words) {
+  Layer& layer = run.Host().document.Target();
+  words.Demand("planes");
+  const int low = words.NextInt("plane");
+  words.Demand("to");
+  const int high = words.NextInt("plane");
+  words.Demand("with");
+  const int value = words.NextInt("value");
+  for (std::size_t i = 0; i < layer.samples.size(); ++i) {
+    const int plane = static_cast<int>(i % static_cast<std::size_t>(layer.planes));
+    if (plane >= low && plane <= high) layer.samples[i] = static_cast<std::uint8_t>(value);
+  }
+  layer.original = layer.samples;
+}
+
 // save layer NAME to FILE
 void SaveLayer(ScenarioRun& run, Words& words) {
   words.Demand("layer");
@@ -167,6 +173,7 @@ const CommandTable& DocumentCommands() {
       {"add", AddLayer},         {"target", TargetLayer},
       {"select", SelectCommand}, {"revert", Revert},
       {"save", SaveLayer},       {"keep", Keep},
+      {"fill", FillPlanes},
   };
   return table;
 }

@@ -12,9 +12,11 @@ void Compare(const std::string& what, const std::string& found, const std::strin
   if (found != wanted) throw ScenarioError(what + " is " + found + ", not " + wanted);
 }
 
-// expect error NUMBER: of the last run or call.
+// expect error NUMBER [or NUMBER ...]: of the last run or call.
 void ExpectError(ScenarioRun& run, Words& words) {
-  Compare("the error", std::to_string(run.lastError), std::to_string(words.NextInt("error")));
+  bool isExpected = words.NextInt("error") == run.lastError;
+  while (words.Accept("or")) isExpected = words.NextInt("error") == run.lastError || isExpected;
+  if (!isExpected) throw ScenarioError("the error is " + std::to_string(run.lastError));
   run.errorIsOpen = false;
 }
 
@@ -30,6 +32,14 @@ void ExpectBox(ScenarioRun& run, Words& words) {
   if (isPart ? box.find(wanted) == std::string::npos : box != wanted) {
     throw ScenarioError("the box says: " + box);
   }
+}
+
+// expect boxes NUMBER: that nobody has expected yet.
+void ExpectBoxes(ScenarioRun& run, Words& words) {
+  std::vector<std::string>& boxes = run.Host().log.boxes;
+  Compare("the number of boxes", std::to_string(boxes.size()),
+          std::to_string(words.NextInt("number")));
+  boxes.clear();
 }
 
 // expect setting FIELD VALUE: in the module's block.
@@ -130,6 +140,7 @@ const CommandTable& Expectations() {
   static const CommandTable table = {
       {"error", ExpectError},
       {"box", ExpectBox},
+      {"boxes", ExpectBoxes},
       {"setting", ExpectSetting},
       {"marker", ExpectSetting},
       {"query", ExpectQuery},
@@ -139,9 +150,10 @@ const CommandTable& Expectations() {
       {"selectors", ExpectSelectors},
       {"progress", ExpectProgress},
       {"kept-blocks", ExpectKeptBlocks},
-      {"max-space", Number("maxSpace", [](ScenarioRun& run) { return run.Host().maxSpace; })},
+      {"max-space",
+       Number("maxSpace", [](ScenarioRun& run) { return run.Host().Record().maxSpace; })},
       {"buffer-space",
-       Number("bufferSpace", [](ScenarioRun& run) { return run.Host().bufferSpace; })},
+       Number("bufferSpace", [](ScenarioRun& run) { return run.Host().Record().bufferSpace; })},
       {"record-info", Number("recordInfo", [](ScenarioRun& run) { return run.Host().recordInfo; })},
       {"advances", Number("advances", [](ScenarioRun& run) { return run.Host().log.advances; })},
       {"dialogs", Number("dialogs", [](ScenarioRun& run) { return run.Host().log.dialogsShown; })},

@@ -99,8 +99,6 @@ std::int16_t RunSelectors(TestHost& host, const RunRequest& request, bool& hasFi
   }
   if (request.afterParameters) request.afterParameters(host);
   if (const std::int16_t error = Call(host, host::filterSelectorPrepare); error != 0) return error;
-  host.maxSpace = host.Record().maxSpace;
-  host.bufferSpace = host.Record().bufferSpace;
   std::int16_t error = Call(host, host::filterSelectorStart);
   const bool hasStarted = error == 0;
   if (hasStarted) error = ContinueWhileAsked(host);

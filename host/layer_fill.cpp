@@ -51,6 +51,15 @@ Layer MakeLayer(const Document& document, const std::string& name, int planes,
   return layer;
 }
 
+testing::Pnm WithAlpha(const testing::Pnm& color, const testing::Pnm& alpha) {
+  testing::Pnm both{color.width, color.height, 4, {}};
+  for (std::size_t i = 0; i < alpha.samples.size(); ++i) {
+    both.samples.insert(both.samples.end(), {color.samples[3 * i], color.samples[3 * i + 1],
+                                             color.samples[3 * i + 2], alpha.samples[i]});
+  }
+  return both;
+}
+
 testing::Pnm PatternPicture(int width, int height) {
   testing::Pnm picture{width, height, 3, {}};
   for (int y = 0; y < height; ++y) {

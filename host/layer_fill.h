@@ -10,7 +10,10 @@ namespace tarnwick::testhost {
 [[nodiscard]] Layer MakeLayer(const Document& document, const std::string& name, int planes,
                               const testing::Pnm& picture);
 
-// The same without a picture: a pattern of colours.
+// A picture of three planes with a fourth from another one.
+[[nodiscard]] testing::Pnm WithAlpha(const testing::Pnm& color, const testing::Pnm& alpha);
+
+// A pattern of colours.
 [[nodiscard]] testing::Pnm PatternPicture(int width, int height);
 
 // For a document of 16 bits: the picture's bytes one after the other from the

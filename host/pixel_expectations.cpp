@@ -137,13 +137,46 @@ void ExpectOutside(ScenarioRun& run, Words& words) {
   }
 }
 
+// expect columns A to B as opened: B is not one of them.
+void ExpectColumns(ScenarioRun& run, Words& words) {
+  const Document& document = run.Host().document;
+  const Layer& layer = document.layers.at(document.target);
+  const int first = words.NextInt("column");
+  words.Demand("to");
+  const int end = words.NextInt("column");
+  words.Demand("as");
+  words.Demand("opened");
+  const auto pixelBytes = static_cast<std::size_t>(layer.planes * document.SampleBytes());
+  for (std::size_t i = 0; i < layer.samples.size(); ++i) {
+    const int x = static_cast<int>(i / pixelBytes % static_cast<std::size_t>(document.width));
+    if (x >= first && x < end && layer.samples[i] != layer.original[i]) {
+      throw ScenarioError("column " + std::to_string(x) + " has changed");
+    }
+  }
+}
+
+// expect bytes FILE [alpha FILE]: the layer's memory begins with the picture's samples, and
+// goes on as it was opened.
+void ExpectBytes(ScenarioRun& run, Words& words) {
+  const Document& document = run.Host().document;
+  const Layer& layer = document.layers.at(document.target);
+  Pnm picture = testing::ReadPnm(run.DataPath(words.Next("picture")));
+  if (words.Accept("alpha")) {
+    picture = WithAlpha(picture, testing::ReadPnm(run.DataPath(words.Next("picture"))));
+  }
+  std::vector<std::uint8_t>& wanted = picture.samples;
+  wanted.insert(wanted.end(), layer.original.begin() + static_cast<std::ptrdiff_t>(wanted.size()),
+                layer.original.end());
+  Compare(WholeOf(document, layer.samples, layer.planes), WholeOf(document, wanted, layer.planes));
+}
+
 }  // namespace
 
 const CommandTable& PixelExpectations() {
   static const CommandTable table = {
-      {"golden", ExpectGolden},   {"pixels", ExpectPixels},       {"planes", ExpectPlanes},
-      {"plane", ExpectPlane},     {"untouched", ExpectUntouched}, {"changed", ExpectChanged},
-      {"outside", ExpectOutside},
+      {"golden", ExpectGolden},       {"columns", ExpectColumns}, {"bytes", ExpectBytes},
+      {"pixels", ExpectPixels},       {"planes", ExpectPlanes},   {"plane", ExpectPlane},
+      {"untouched", ExpectUntouched}, {"changed", ExpectChanged}, {"outside", ExpectOutside},
   };
   return table;
 }

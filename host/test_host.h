@@ -37,8 +37,6 @@ struct TestHost {
   Descriptor recorded;
   bool hasRecorded = false;
   std::int16_t recordInfo = -1;
-  std::int32_t maxSpace = 0;
-  std::int32_t bufferSpace = -1;
   std::vector<host::OSType> expectedKeys;  // as the module asked for them
   std::vector<host::OSType> missingKeys;   // of those, what its descriptor had not
 
