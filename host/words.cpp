@@ -8,9 +8,10 @@ Words::Words(const std::string& line) {
       ++i;
       continue;
     }
-    const bool isQuoted = line[i] == '"';
+    const bool isQuoted = line[i] == '"' || line[i] == '\'';
     const std::size_t begin = isQuoted ? i + 1 : i;
-    const std::size_t end = line.find_first_of(isQuoted ? "\"" : " \t\r", begin);
+    const std::size_t end =
+        isQuoted ? line.find(line[i], begin) : line.find_first_of(" \t\r", begin);
     if (isQuoted && end == std::string::npos) throw ScenarioError("a text does not end");
     words_.push_back(line.substr(begin, end == std::string::npos ? end : end - begin));
     i = end == std::string::npos ? line.size() : end + 1;

@@ -11,8 +11,8 @@ struct ScenarioError : std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
-// The words of a line, taken one by one. Texts in double quotes are one word,
-// without the quotes; from a # on a line is a comment.
+// The words of a line, taken one by one. Texts in quotes, double or single, are one
+// word, without the quotes; from a # on a line is a comment.
 class Words {
  public:
   explicit Words(const std::string& line);

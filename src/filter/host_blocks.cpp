@@ -21,6 +21,11 @@ void Unlock(const FilterGlobals& g, Handle handle) {
   if (procs != nullptr && procs->unlockProc != nullptr) procs->unlockProc(handle);
 }
 
+void Dispose(const FilterGlobals& g, Handle handle) {
+  const host::HandleProcs* const procs = g.gFilterRecord->handleProcs;
+  if (procs != nullptr && procs->disposeProc != nullptr) procs->disposeProc(handle);
+}
+
 Handle SessionHandle(const FilterGlobals& g) {
   // The slot is the host's: it keeps the handle as a number.
   return reinterpret_cast<Handle>(*g.gDataSlot);  // NOLINT(performance-no-int-to-ptr)
@@ -28,15 +33,34 @@ Handle SessionHandle(const FilterGlobals& g) {
 
 }  // namespace
 
-void AllocateSettings(FilterGlobals& g) {
-  g.gFilterRecord->parameters = NewBlock(g, sizeof(EffectSettings));
-  if (g.gFilterRecord->parameters == nullptr) *g.gResult = host::memFullErr;
+MadeBlocks MakeMissingBlocks(FilterGlobals& g) {
+  MadeBlocks made;
+  if (g.gDataSlot == nullptr) {
+    *g.gResult = host::filterBadParameters;
+    return made;
+  }
+  if (!HasSettings(g)) {
+    g.gFilterRecord->parameters = NewBlock(g, sizeof(EffectSettings));
+    made.settings = HasSettings(g);
+    if (!made.settings) *g.gResult = host::memFullErr;
+  }
+  if (!HasSession(g)) {
+    *g.gDataSlot = reinterpret_cast<std::intptr_t>(NewBlock(g, sizeof(SessionData)));
+    made.session = HasSession(g);
+    if (!made.session) *g.gResult = host::memFullErr;
+  }
+  return made;
 }
 
-void AllocateSession(FilterGlobals& g) {
-  const Handle handle = NewBlock(g, sizeof(SessionData));
-  *g.gDataSlot = reinterpret_cast<std::intptr_t>(handle);
-  if (handle == nullptr) *g.gResult = host::memFullErr;
+void DropBlocks(FilterGlobals& g, const MadeBlocks& made) {
+  if (made.settings) {
+    Dispose(g, g.gFilterRecord->parameters);
+    g.gFilterRecord->parameters = nullptr;
+  }
+  if (made.session) {
+    Dispose(g, SessionHandle(g));
+    *g.gDataSlot = 0;
+  }
 }
 
 bool HasSettings(const FilterGlobals& g) {

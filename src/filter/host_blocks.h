@@ -5,9 +5,18 @@ namespace tarnwick {
 
 // The two blocks that the host keeps in handles. An error goes to *gResult.
 
-// A new handle of the record's size, into FilterRecord::parameters or the slot.
-void AllocateSettings(FilterGlobals& g);
-void AllocateSession(FilterGlobals& g);
+// Which of them a call has made. They hold nothing yet.
+struct MadeBlocks {
+  bool settings = false;
+  bool session = false;
+};
+
+// A new handle of the record's size into FilterRecord::parameters and into the
+// slot, where there is none.
+[[nodiscard]] MadeBlocks MakeMissingBlocks(FilterGlobals& g);
+// Gives back what could be made but not filled: a later call would take what it
+// holds for settings.
+void DropBlocks(FilterGlobals& g, const MadeBlocks& made);
 
 [[nodiscard]] bool HasSettings(const FilterGlobals& g);
 [[nodiscard]] bool HasSession(const FilterGlobals& g);

@@ -29,9 +29,8 @@ bool HostAnswersActions(host::SPBasicSuite* broker) {
 }
 
 void InitBlocks(FilterGlobals& g) {
-  if (!HasSettings(g)) AllocateSettings(g);
-  if (!HasSession(g)) AllocateSession(g);
-  if (*g.gResult != host::noErr || !LockBlocks(g)) return;
+  const MadeBlocks made = MakeMissingBlocks(g);
+  if (*g.gResult != host::noErr || !LockBlocks(g)) return DropBlocks(g, made);
   InitSettingsToDefaults(*g.gParams, g.session);
   InitSessionData(*g.gData);
 }
@@ -92,21 +91,20 @@ void DoAbout(FilterGlobals& g) {
 }
 
 void DoParameters(FilterGlobals& g) {
-  const bool fresh = !HasSettings(g);
-  if (fresh) AllocateSettings(g);
-  if (!HasSession(g)) AllocateSession(g);
-  if (*g.gResult != host::noErr || !LockBlocks(g)) return;
-  if (fresh) InitSettingsToDefaults(*g.gParams, g.session);
+  const MadeBlocks made = MakeMissingBlocks(g);
+  if (*g.gResult != host::noErr || !LockBlocks(g)) return DropBlocks(g, made);
+  if (made.settings) InitSettingsToDefaults(*g.gParams, g.session);
   InitSessionData(*g.gData);
 }
 
 void DoPrepare(FilterGlobals& g) {
   InitPaths(g);
-  // Before this selector's lock: it works on what the last one left.
-  if (g.gParams != nullptr) LoadUiFile(UiFilePath(g), *g.gParams, g.ui);
+  // Only where an earlier selector has locked the settings; and into the block as
+  // it lies now, since it may have moved or gone since then.
+  const bool readsUiFile = g.gParams != nullptr;
   g.HostHasActions = HostAnswersActions(g.gBasicSuite);
   if (HasSettings(g) && HasSession(g)) {
-    LockBlocks(g);
+    if (LockBlocks(g) && readsUiFile) LoadUiFile(UiFilePath(g), *g.gParams, g.ui);
   } else {
     InitBlocks(g);
   }
