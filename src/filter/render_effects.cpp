@@ -1,8 +1,8 @@
 #include "filter/render_effects.h"
 
+#include <cstdint>
 #include <cstring>
 
-#include "base/checked_size.h"
 #include "engine/apply_run.h"
 #include "engine/picture_io.h"
 #include "engine/render_layers.h"
@@ -41,6 +41,14 @@ class BoxAlerts : public TextureAlerts {
 bool IsSupported(std::int16_t mode) {
   return mode == host::plugInModeRGBColor || mode == host::plugInModeRGB48 ||
          mode == host::plugInModeCMYKColor || mode == host::plugInModeCMYK64;
+}
+
+// Any shape whose squared distances fit 32 bits: a strip may be longer than a
+// square's side.
+bool IsRenderable(std::int64_t width, std::int64_t height) {
+  constexpr std::int64_t kLongestSide = 46340;
+  return width >= 1 && height >= 1 && width <= kLongestSide && height <= kLongestSide &&
+         width * width + height * height <= INT32_MAX;
 }
 
 // The record's buffers as a job. Samples of a 16-bit document are taken as bytes
@@ -169,7 +177,7 @@ void RenderEffects(FilterGlobals& g) {
     return;
   }
   PictureJob job = JobOf(record);
-  if (!IsPictureSize(job.width, job.height) || job.planes < 1 || job.in == nullptr ||
+  if (!IsRenderable(job.width, job.height) || job.planes < 1 || job.in == nullptr ||
       job.out == nullptr) {
     *g.gResult = host::filterBadParameters;
     return;
