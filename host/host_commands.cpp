@@ -2,6 +2,7 @@
 #include <fstream>
 
 #include "host/scenario_run.h"
+#include "textures/wash_file_writer.h"
 
 namespace tarnwick::testhost {
 namespace {
@@ -118,6 +119,20 @@ void File(ScenarioRun& run, Words& words) {
   std::ofstream(path, std::ios::binary) << text;
 }
 
+// texture NAME WxH: a grey ramp in the data folder.
+void Texture(ScenarioRun& run, Words& words) {
+  const std::string path = run.OutPath("Tarnwick Studio/" + words.Next("file name"));
+  WashFileHeader header;
+  const std::string size = words.Next("size");
+  header.width = std::stoi(size);
+  header.height = std::stoi(size.substr(size.find('x') + 1));
+  std::vector<std::uint8_t> samples(static_cast<std::size_t>(header.width * header.height));
+  for (std::size_t i = 0; i < samples.size(); ++i) samples[i] = static_cast<std::uint8_t>(i * 7);
+  if (WriteWashFile(path, header, samples) != WashWriteOutcome::kDone) {
+    throw ScenarioError(path + " cannot be written");
+  }
+}
+
 // remove NAME: a file or a folder beside the module.
 void Remove(ScenarioRun& run, Words& words) {
   if (fs::remove_all(run.OutPath(words.Next("file name"))) == 0) {
@@ -182,10 +197,10 @@ void Ignore(ScenarioRun& run, Words& words) {
 
 const CommandTable& HostCommands() {
   static const CommandTable table = {
-      {"host", SetHost},  {"option", Option}, {"refuse", Refuse},   {"allow", Allow},
-      {"fail", Fail},     {"module", Module}, {"file", File},       {"remove", Remove},
-      {"forget", Forget}, {"reload", Reload}, {"restart", Restart}, {"dialog", Dialog},
-      {"ignore", Ignore},
+      {"host", SetHost},    {"option", Option}, {"refuse", Refuse}, {"allow", Allow},
+      {"fail", Fail},       {"module", Module}, {"file", File},     {"remove", Remove},
+      {"texture", Texture}, {"forget", Forget}, {"reload", Reload}, {"restart", Restart},
+      {"dialog", Dialog},   {"ignore", Ignore},
   };
   return table;
 }

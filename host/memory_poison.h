@@ -16,21 +16,22 @@ namespace tarnwick::testhost {
 
 inline constexpr unsigned char kPoison = 0xA5;
 
-// Fills memory with a pattern; under the address sanitizer reading it is a fault
-// at once.
-inline void PoisonMemory(char* bytes, std::size_t size) {
-  for (std::size_t i = 0; i < size; ++i) bytes[i] = static_cast<char>(kPoison);
-#ifdef TARNWICK_POISONS
-  __asan_poison_memory_region(bytes, size);
-#endif
-}
-
 inline void UnpoisonMemory(char* bytes, std::size_t size) {
 #ifdef TARNWICK_POISONS
   __asan_unpoison_memory_region(bytes, size);
 #else
   (void)bytes;
   (void)size;
+#endif
+}
+
+// Fills memory with a pattern; under the address sanitizer reading it is a fault
+// at once.
+inline void PoisonMemory(char* bytes, std::size_t size) {
+  UnpoisonMemory(bytes, size);
+  for (std::size_t i = 0; i < size; ++i) bytes[i] = static_cast<char>(kPoison);
+#ifdef TARNWICK_POISONS
+  __asan_poison_memory_region(bytes, size);
 #endif
 }
 

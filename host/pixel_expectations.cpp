@@ -108,14 +108,26 @@ void ExpectUntouched(ScenarioRun& run, Words&) {
   }
 }
 
-// expect changed [plane N]: the target is not as it was opened.
+// Whether a column of a layer is as it was opened.
+bool IsColumnSame(const Document& document, const Layer& layer, int column) {
+  const auto pixelBytes = static_cast<std::size_t>(layer.planes * document.SampleBytes());
+  for (std::size_t i = 0; i < layer.samples.size(); ++i) {
+    const int x = static_cast<int>(i / pixelBytes % static_cast<std::size_t>(document.width));
+    if (x == column && layer.samples[i] != layer.original[i]) return false;
+  }
+  return true;
+}
+
+// expect changed [plane N | column N]: the target is not as it was opened.
 void ExpectChanged(ScenarioRun& run, Words& words) {
   const Document& document = run.Host().document;
   const Layer& layer = document.layers.at(document.target);
   Layer before = layer;
   before.samples = before.original;
   bool isSame = layer.samples == layer.original;
-  if (words.Accept("plane")) {
+  if (words.Accept("column")) {
+    isSame = IsColumnSame(document, layer, words.NextInt("column"));
+  } else if (words.Accept("plane")) {
     const int plane = words.NextInt("plane");
     isSame = PlanesOf(document, layer, plane, plane).samples ==
              PlanesOf(document, before, plane, plane).samples;
@@ -146,10 +158,8 @@ void ExpectColumns(ScenarioRun& run, Words& words) {
   const int end = words.NextInt("column");
   words.Demand("as");
   words.Demand("opened");
-  const auto pixelBytes = static_cast<std::size_t>(layer.planes * document.SampleBytes());
-  for (std::size_t i = 0; i < layer.samples.size(); ++i) {
-    const int x = static_cast<int>(i / pixelBytes % static_cast<std::size_t>(document.width));
-    if (x >= first && x < end && layer.samples[i] != layer.original[i]) {
+  for (int x = first; x < end; ++x) {
+    if (!IsColumnSame(document, layer, x)) {
       throw ScenarioError("column " + std::to_string(x) + " has changed");
     }
   }
