@@ -142,7 +142,7 @@ void ScenarioRun::Step(const ScenarioLine& line) {
   if (command == nullptr) throw ScenarioError("nobody knows how to " + line.text);
   if (!isExpectation) CheckNoError();
   (*command)(*this, words);
-  words.End();
+  if (!isSkipped) words.End();
 }
 
 void ScenarioRun::CheckEnd() {

@@ -1,0 +1,46 @@
+#include "host/box_watcher_win.h"
+
+#include <windows.h>
+
+#include <cstring>
+
+namespace tarnwick::testhost {
+namespace {
+
+HostLog*& WatchedLog() {
+  static HostLog* log = nullptr;
+  return log;
+}
+
+// The static control of a message box that holds its text.
+constexpr int kBoxText = 0xFFFF;
+
+LRESULT CALLBACK OnActivation(int code, WPARAM wParam, LPARAM lParam) {
+  if (code == HCBT_ACTIVATE) {
+    const auto box = reinterpret_cast<HWND>(wParam);
+    char className[16] = {};
+    GetClassNameA(box, className, sizeof className);
+    const HWND label = GetDlgItem(box, kBoxText);
+    if (std::strcmp(className, "#32770") == 0 && label != nullptr && WatchedLog() != nullptr) {
+      char text[2048] = {};
+      GetWindowTextA(label, text, sizeof text);
+      WatchedLog()->boxes.emplace_back(text);
+      PostMessageA(box, WM_COMMAND, IDOK, 0);
+    }
+  }
+  return CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
+}  // namespace
+
+BoxWatcher::BoxWatcher(HostLog& log)
+    : hook_(SetWindowsHookExA(WH_CBT, OnActivation, nullptr, GetCurrentThreadId())) {
+  WatchedLog() = &log;
+}
+
+BoxWatcher::~BoxWatcher() {
+  UnhookWindowsHookEx(static_cast<HHOOK>(hook_));
+  WatchedLog() = nullptr;
+}
+
+}  // namespace tarnwick::testhost
