@@ -103,9 +103,10 @@ void Fail(ScenarioRun& run, Words& words) {
   }
 }
 
-// module named X: the file name that the module lies under.
+// module named X: the file name that the module lies under when it is loaded next.
 void Module(ScenarioRun& run, Words& words) {
   words.Demand("named");
+  run.Host().module->Unload();
   run.moduleName = words.Next("file name");
 }
 
