@@ -41,14 +41,21 @@ bool IsFit(const PixelMemoryDesc* memory) {
   return memory != nullptr && memory->data != nullptr && memory->depth == TheHost().document.depth;
 }
 
+bool IsReadable(const ChannelPort* port) {
+  const TestHost& host = TheHost();
+  return port != nullptr &&
+         (host.failures.unreadableLayer.empty() ||
+          host.document.layers.at(port->layer).name != host.failures.unreadableLayer);
+}
+
 SPErr TARNWICK_HOST_CALL CanRead(ChannelPort* port, host::Boolean* canRead) {
-  *canRead = port != nullptr ? 1 : 0;
+  *canRead = IsReadable(port) ? 1 : 0;
   return host::kSPNoError;
 }
 
 SPErr TARNWICK_HOST_CALL ReadPixelsFromLevel(ChannelPort* port, std::int32_t level, VRect* rect,
                                              const PixelMemoryDesc* to) {
-  if (port == nullptr || level != 0 || !IsFit(to)) return host::kSPBadParameterError;
+  if (!IsReadable(port) || level != 0 || !IsFit(to)) return host::kSPBadParameterError;
   ReadPlane(*port, *rect, *to);
   *rect = Clipped(TheHost().document, *rect);
   return host::kSPNoError;
@@ -61,7 +68,7 @@ host::OSErr TARNWICK_HOST_CALL ReadPixels(ChannelPort* port, const host::PSScali
   const VRect& b = scaling->destinationRect;
   const bool isScaled =
       a.right - a.left != b.right - b.left || a.bottom - a.top != b.bottom - b.top;
-  if (port == nullptr || isScaled || !IsFit(to)) return host::paramErr;
+  if (!IsReadable(port) || isScaled || !IsFit(to)) return host::paramErr;
   ReadPlane(*port, *rect, *to);
   *wrote = Clipped(TheHost().document, *rect);
   return host::noErr;

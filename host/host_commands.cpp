@@ -94,6 +94,8 @@ void Fail(ScenarioRun& run, Words& words) {
   } else if (what == "put") {
     failures.putKey = CodeOf(words.Next("key"));
     failures.putKeyError = NextError(words);
+  } else if (what == "layer") {
+    failures.unreadableLayer = words.Next("name of the layer");
   } else if (what == "make-reference") {
     failures.makeReference = true;
   } else if (what == "make-descriptor") {
@@ -189,6 +191,22 @@ void Dialog(ScenarioRun& run, Words& words) {
   run.Host().module->SetDialog(run.hasDialog ? &run : nullptr);
 }
 
+// view WxH at X Y scale S [to output]: what the stand-in dialog looks at.
+void View(ScenarioRun& run, Words& words) {
+  const std::string size = words.Next("size");
+  run.hasView = true;
+  run.view = {};
+  run.view.width = std::stoi(size);
+  run.view.height = std::stoi(size.substr(size.find('x') + 1));
+  words.Demand("at");
+  run.view.x = words.NextInt("column");
+  run.view.y = words.NextInt("row");
+  words.Demand("scale");
+  run.view.scale = std::stof(words.Next("scale"));
+  run.view.toOutput = words.Accept("to");
+  if (run.view.toOutput) words.Demand("output");
+}
+
 void Ignore(ScenarioRun& run, Words& words) {
   words.Demand("boxes");
   run.ignoresBoxes = true;
@@ -201,7 +219,7 @@ const CommandTable& HostCommands() {
       {"host", SetHost},    {"option", Option}, {"refuse", Refuse}, {"allow", Allow},
       {"fail", Fail},       {"module", Module}, {"file", File},     {"remove", Remove},
       {"texture", Texture}, {"forget", Forget}, {"reload", Reload}, {"restart", Restart},
-      {"dialog", Dialog},   {"ignore", Ignore},
+      {"dialog", Dialog},   {"ignore", Ignore}, {"view", View},
   };
   return table;
 }

@@ -52,6 +52,7 @@ struct HostFailures {
   host::OSType putKey = 0;                // putting this key into an action descriptor ...
   host::OSErr putKeyError = host::noErr;  // ... gives this error
   bool makeReference = false;
+  std::string unreadableLayer;  // none of its channels can be read
   bool makeDescriptor = false;
 };
 

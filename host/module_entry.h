@@ -3,10 +3,32 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace tarnwick::testhost {
 
 struct HostLog;
+
+// A picture of planes one after the other; empty when there is none.
+struct PlanarPicture {
+  int width = 0, height = 0, planes = 0;
+  std::vector<std::uint8_t> samples;
+};
+
+// What a dialog asks of the document when it opens, and what it gets to see.
+struct DocumentView {
+  float scale = 1;  // document pixels for a shown one
+  int x = 0, y = 0, width = 0, height = 0;
+  bool toOutput = false;
+
+  bool hasRead = false;    // the outcome of the reading of layers,
+  std::int16_t error = 0;  // and the error that it left
+  PlanarPicture documentCopy, layersBelow;
+  PlanarPicture sampled;  // the copy, in the view's window
+  std::int16_t fetchError = 0;
+  PlanarPicture selectionPlane, documentPixels;
+  bool knowsModule = false;  // the handle of the module was found
+};
 
 // The way into the filter module: linked in, or a file that is loaded. What only
 // one of the two can do is asked for first.
@@ -32,6 +54,8 @@ class ModuleEntry {
     virtual ~StandInDialog() = default;
     virtual bool Show(void* settings) = 0;
     virtual void ShowAbout() = 0;
+    // Null: it does not look at the document.
+    virtual DocumentView* View() = 0;
   };
   virtual void SetDialog(StandInDialog* dialog) = 0;
 

@@ -8,6 +8,7 @@
 #include "filter/plugin_main.h"
 #include "filter/saved_blocks.h"
 #include "host/counted_pages.h"
+#include "host/document_view.h"
 #include "host/linked_module.h"
 #include "host/module_entry.h"
 
@@ -69,6 +70,7 @@ class LinkedModule : public ModuleEntry, FilterWindows {
  private:
   bool ShowMainDialog(FilterGlobals& g) override {
     g.DialogActive = 1;
+    if (DocumentView* const view = dialog_->View()) LookAtDocument(g, *view);
     const bool accepted = dialog_->Show(g.gParams);
     g.DialogActive = 0;
     return accepted;

@@ -18,6 +18,10 @@ std::string ModuleFileName() {
   return testhost::LinkedModuleFile();
 }
 
+void* OwnModuleHandle() {
+  return &testhost::LinkedModuleFile();
+}
+
 void WriteComplaint(const std::string& text) {
   testhost::LinkedModuleLog().complaints.push_back(text);
 }

@@ -20,7 +20,8 @@ const Command* FindCommand(const std::string& word) {
 }
 
 const Command* FindExpectation(const std::string& word) {
-  for (const CommandTable* table : {&Expectations(), &PixelExpectations(), &KeyExpectations()}) {
+  for (const CommandTable* table :
+       {&Expectations(), &PixelExpectations(), &KeyExpectations(), &ViewExpectations()}) {
     if (const auto found = table->find(word); found != table->end()) return &found->second;
   }
   return nullptr;

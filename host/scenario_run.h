@@ -56,6 +56,7 @@ class ScenarioRun : public ModuleEntry::StandInDialog {
 
   bool Show(void* settings) override;
   void ShowAbout() override;
+  DocumentView* View() override { return hasView ? &view : nullptr; }
 
   std::string moduleName = "TarnikStudi.8bf";
   std::map<std::string, Descriptor> steps;
@@ -66,6 +67,8 @@ class ScenarioRun : public ModuleEntry::StandInDialog {
   // What the stand-in dialog does.
   bool hasDialog = false;
   bool dialogAccepts = true;
+  bool hasView = false;
+  DocumentView view;
   std::vector<std::pair<std::string, std::string>> dialogSettings;
   std::int16_t lastError = 0;
   bool errorIsOpen = false;
@@ -95,6 +98,7 @@ using CommandTable = std::map<std::string, Command>;
 [[nodiscard]] const CommandTable& Expectations();
 [[nodiscard]] const CommandTable& PixelExpectations();
 [[nodiscard]] const CommandTable& KeyExpectations();
+[[nodiscard]] const CommandTable& ViewExpectations();
 
 // A value of the record by the name of its field, and back; the text is the very
 // bytes. `settings` is an EffectSettings.

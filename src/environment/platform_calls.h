@@ -18,6 +18,9 @@ void ShowAlertBox(const std::string& text, void* ownerWindow);
 // The full name of this module's own file; empty if it cannot be told.
 [[nodiscard]] std::string ModuleFileName();
 
+// The platform's handle of this module; null if it cannot be told.
+[[nodiscard]] void* OwnModuleHandle();
+
 // A line for whoever watches the standard error stream.
 void WriteComplaint(const std::string& text);
 

@@ -23,6 +23,12 @@ std::string ModuleFileName() {
   return realpath(info.dli_fname, resolved) != nullptr ? resolved : "";
 }
 
+void* OwnModuleHandle() {
+  Dl_info info{};
+  return dladdr(reinterpret_cast<const void*>(&ShowWarningBox), &info) == 0 ? nullptr
+                                                                            : info.dli_fbase;
+}
+
 void WriteComplaint(const std::string& text) {
   std::fputs(text.c_str(), stderr);
 }

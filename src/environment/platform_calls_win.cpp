@@ -36,6 +36,10 @@ std::string ModuleFileName() {
   return {name.data(), length};
 }
 
+void* OwnModuleHandle() {
+  return OwnModule();
+}
+
 void WriteComplaint(const std::string& text) {
   std::fputs(text.c_str(), stderr);
 }

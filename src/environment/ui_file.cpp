@@ -4,6 +4,7 @@
 #include <cstdio>
 #include <memory>
 
+#include "environment/format_text.h"
 #include "presets/preset_lines.h"
 
 namespace tarnwick {
@@ -84,7 +85,9 @@ void SaveUiFile(const std::string& path, const EffectSettings& settings, const U
       {"nSsU", values.useSound, "\t\t\t\t;Use sound for Auto"},
   };
   for (const auto& line : lines) {
-    std::fprintf(file.get(), "%s %d %s\n", line.key, static_cast<int>(line.value), line.comment);
+    const std::string text =
+        FormatText("%s %d %s\n", line.key, static_cast<int>(line.value), line.comment);
+    std::fputs(text.c_str(), file.get());
   }
 }
 

@@ -6,6 +6,7 @@
 #include "engine/render_state.h"
 #include "environment/folders.h"
 #include "environment/ui_file.h"
+#include "filter/suite_record.h"
 #include "host_interface/filter_record.h"
 #include "presets/preset_session.h"
 #include "settings/effect_settings.h"
@@ -33,6 +34,9 @@ struct FilterGlobals {
   EffectSettings* gParams = nullptr;
   SessionData* gData = nullptr;
 
+  SuiteRecord accessSuite{nullptr, 3, host::kSPAccessSuite};
+  void* moduleHandle = nullptr;  // see GetModuleHandleFor
+
   bool HostHasActions = false;    // its action suites answer
   std::int32_t DialogActive = 0;  // 1 while the main dialog exists
 
@@ -44,7 +48,15 @@ struct FilterGlobals {
   // Of the present run.
   RenderState render;
   EffectLayers layers;
-  PageBuffer<std::uint8_t> selectionPlane;
+  PageBuffer<std::uint8_t> selectionPlane;  // alpha times selection, a byte a pixel
+  std::int32_t selectionPlaneRowBytes = 0;
+
+  // What the dialog has read of the document; it frees them when it closes.
+  ImagePtr documentCopy;                    // the target layer
+  ImagePtr layersBelow;                     // what is visible under it, flattened
+  PageBuffer<std::uint8_t> documentPixels;  // red, green, blue, selectionPlane
+  std::int32_t documentPixelsWidth = 0;
+  std::int32_t documentPixelsHeight = 0;
 };
 
 // The one set of them.

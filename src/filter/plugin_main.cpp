@@ -35,9 +35,12 @@ void RunGuarded(std::int16_t selector, FilterGlobals& g) {
     RunHandler(selector, g);
   } catch (const std::bad_alloc&) {
     *g.gResult = host::memFullErr;
+  } catch (const HostServiceMissing&) {
+    *g.gResult = host::errPlugInHostInsufficient;
   } catch (...) {
     *g.gResult = host::paramErr;
   }
+  ReleaseSuite(g.gBasicSuite, g.accessSuite);
 }
 
 }  // namespace

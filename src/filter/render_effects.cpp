@@ -12,6 +12,7 @@
 #include "filter/host_rects.h"
 #include "filter/layer_passes.h"
 #include "filter/pass_through.h"
+#include "filter/picture_job.h"
 #include "filter/selectors.h"
 
 namespace tarnwick {
@@ -41,35 +42,6 @@ class BoxAlerts : public TextureAlerts {
 bool IsSupported(std::int16_t mode) {
   return mode == host::plugInModeRGBColor || mode == host::plugInModeRGB48 ||
          mode == host::plugInModeCMYKColor || mode == host::plugInModeCMYK64;
-}
-
-// Any shape whose squared distances fit 32 bits: a strip may be longer than a
-// square's side.
-bool IsRenderable(std::int64_t width, std::int64_t height) {
-  constexpr std::int64_t kLongestSide = 46340;
-  return width >= 1 && height >= 1 && width <= kLongestSide && height <= kLongestSide &&
-         width * width + height * height <= INT32_MAX;
-}
-
-// The record's buffers as a job. Samples of a 16-bit document are taken as bytes
-// of rows half as long; such documents get no other treatment.
-PictureJob JobOf(const host::FilterRecord& record) {
-  const Rect rect = GetOutRect(record);
-  const bool is16Bit = record.depth == 16;
-  PictureJob job;
-  job.width = rect.Width();
-  job.height = rect.Height();
-  job.planes = record.planes;
-  job.mode = static_cast<ImageMode>(record.imageMode);
-  job.in = static_cast<const std::uint8_t*>(record.inData);
-  job.out = static_cast<std::uint8_t*>(record.outData);
-  job.inRowBytes = is16Bit ? record.inRowBytes / 2 : record.inRowBytes;
-  job.outRowBytes = is16Bit ? record.outRowBytes / 2 : record.outRowBytes;
-  if (record.haveMask != 0 && record.maskData != nullptr) {
-    job.selection = static_cast<const std::uint8_t*>(record.maskData);
-    job.selectionRowBytes = record.maskRowBytes;
-  }
-  return job;
 }
 
 void BeginState(FilterGlobals& g, const PictureJob& job, Progress progress) {
@@ -176,9 +148,8 @@ void RenderEffects(FilterGlobals& g) {
     ShowWarningBox("This Mode is Not Supported by the Plug-in");
     return;
   }
-  PictureJob job = JobOf(record);
-  if (!IsRenderable(job.width, job.height) || job.planes < 1 || job.in == nullptr ||
-      job.out == nullptr) {
+  PictureJob job = JobOf(record, GetOutRect(record));
+  if (!IsRenderable(job) || job.in == nullptr || job.out == nullptr) {
     *g.gResult = host::filterBadParameters;
     return;
   }
