@@ -15,6 +15,7 @@ enum class TextureSet : std::uint32_t {
   kPaperDrawer = 5,
   kTimberYard = 6,
   kHidesAndCloth = 7,
+  kQuarry = 8,
 };
 
 struct TextureSetName {
@@ -23,7 +24,7 @@ struct TextureSetName {
 };
 
 // In the order in which they are offered.
-inline constexpr std::array<TextureSetName, 7> kTextureSets = {{
+inline constexpr std::array<TextureSetName, 8> kTextureSets = {{
     {TextureSet::kEssentials, "Essentials"},
     {TextureSet::kDarkroom, "Darkroom"},
     {TextureSet::kWallsAndSigns, "Walls and Signs"},
@@ -31,6 +32,7 @@ inline constexpr std::array<TextureSetName, 7> kTextureSets = {{
     {TextureSet::kPaperDrawer, "Paper Drawer"},
     {TextureSet::kTimberYard, "Timber Yard"},
     {TextureSet::kHidesAndCloth, "Hides and Cloth"},
+    {TextureSet::kQuarry, "The Quarry"},
 }};
 
 [[nodiscard]] constexpr std::string_view TextureSetNameOf(TextureSet set) {
