@@ -4,6 +4,7 @@
 #include "base/truncate.h"
 #include "engine/background_render.h"
 #include "imaging/hls_color.h"
+#include "imaging/tone_weights.h"
 
 namespace tarnwick {
 namespace {
@@ -79,14 +80,13 @@ void Enhance(const EnhancedRange& range, float t, HlsColor& color) {
 }
 
 ToneTable::value_type TonedPixel(const ToneLook& look, float t) {
-  const bool dark = t <= 0.65F;
-  const float w = dark ? (0.65F - t) * 1.5384616F : (t - 0.65F) * 2.857143F;
-  const LayerColor& outer = dark ? look.layer.shadowColor : look.layer.highlightColor;
+  const ToneWeights weights = ToneWeightsOf(t);
+  const LayerColor& outer = weights.isDark ? look.layer.shadowColor : look.layer.highlightColor;
   const LayerColor& middle = look.layer.midtoneColor;
   std::array<int, 3> c{};
   for (std::size_t i = 0; i < 3; ++i) {
-    c[i] = static_cast<int>(static_cast<float>(outer[i]) * w +
-                            static_cast<float>(middle[i]) * (1.0F - w));
+    c[i] = static_cast<int>(static_cast<float>(outer[i]) * weights.outer +
+                            static_cast<float>(middle[i]) * weights.middle);
   }
   if (look.Adjusts()) {
     HlsColor hls = RgbToHls(c[0], c[1], c[2]);

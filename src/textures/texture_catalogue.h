@@ -41,9 +41,9 @@ struct TextureFilter {
                                       const TextureSetTable& sets);
 
 // The drawer's boxes have "No Texture/Solid" as row 1 of both, so what follows
-// stands a row lower. Row 1 passes just "No_Texture.twk" and "Solid.twk": in the
-// set box whatever the effect box says unless that has a row above 1, in the
-// effect box whatever the set box says.
+// stands a row lower. Row 1 passes just "No_Texture.twk" and "Solid.twk", by
+// case: in the set box whatever the effect box says, in the effect box whatever
+// other set is chosen.
 [[nodiscard]] bool PassesDrawerFilter(const TextureRecord& record, const TextureFilter& filter,
                                       const TextureSetTable& sets);
 

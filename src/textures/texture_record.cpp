@@ -21,7 +21,8 @@ using HeaderBytes = std::array<char, AWashFile::kHeaderBytes>;
 
 std::uint32_t WordAt(const HeaderBytes& bytes, std::size_t offset) {
   std::uint32_t word = 0;
-  for (std::size_t i = 4; i-- > 0;) word = word << 8 | static_cast<unsigned char>(bytes[offset + i]);
+  for (std::size_t i = 4; i-- > 0;)
+    word = word << 8 | static_cast<unsigned char>(bytes[offset + i]);
   return word;
 }
 
