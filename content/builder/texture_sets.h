@@ -16,6 +16,7 @@ enum class TextureSet : std::uint32_t {
   kTimberYard = 6,
   kHidesAndCloth = 7,
   kQuarry = 8,
+  kWeatherStation = 9,
 };
 
 struct TextureSetName {
@@ -24,7 +25,7 @@ struct TextureSetName {
 };
 
 // In the order in which they are offered.
-inline constexpr std::array<TextureSetName, 8> kTextureSets = {{
+inline constexpr std::array<TextureSetName, 9> kTextureSets = {{
     {TextureSet::kEssentials, "Essentials"},
     {TextureSet::kDarkroom, "Darkroom"},
     {TextureSet::kWallsAndSigns, "Walls and Signs"},
@@ -33,6 +34,7 @@ inline constexpr std::array<TextureSetName, 8> kTextureSets = {{
     {TextureSet::kTimberYard, "Timber Yard"},
     {TextureSet::kHidesAndCloth, "Hides and Cloth"},
     {TextureSet::kQuarry, "The Quarry"},
+    {TextureSet::kWeatherStation, "Weather Station"},
 }};
 
 [[nodiscard]] constexpr std::string_view TextureSetNameOf(TextureSet set) {
