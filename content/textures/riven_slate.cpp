@@ -1,0 +1,84 @@
+// Riven_Slate: a roofing slate split with the bolster. The break ran along one
+// layer, jumped to the next, and left flat terraces with broken, feathered
+// steps between them.
+//
+// What makes it read as that: level surfaces and abrupt steps, nothing rounded;
+// steps long in one direction and ragged in the other; a fine grain that runs
+// through everything the same way.
+#include "builder/texture_recipe.h"
+#include "toolbox/cells.h"
+#include "toolbox/filters.h"
+#include "toolbox/hash.h"
+#include "toolbox/maths.h"
+#include "toolbox/noise.h"
+#include "toolbox/tone.h"
+
+namespace tarnwick::content {
+namespace {
+
+// Which of the layers lies open at a place, and how far from the next step.
+float Terraced(float level, float sharp) {
+  const float whole = static_cast<float>(FloorInt(level));
+  const float t = level - whole;
+  return whole + SmoothRamp(0.5F - sharp, 0.5F + sharp, t);
+}
+
+Field Paint(const Sheet& sheet) {
+  const std::uint32_t seed = sheet.seed;
+  const Fbm lie{720.0F, 3, 0.5F, seed};
+  const Fbm shell{210.0F, 6, 0.60F, seed + 10};
+  const Fbm feather{34.0F, 4, 0.66F, seed + 20};
+  const Fbm grain{5.0F, 4, 0.72F, seed + 30};
+  const Fbm swell{160.0F, 3, 0.5F, seed + 34};
+  const Fbm tint{520.0F, 5, 0.55F, seed + 38};
+  const Cells chips{70.0F, 1.0F, seed + 44};
+
+  const auto turned = [](const Spot& p) {
+    return Spot{p.x, p.y, 0.94F * p.fx + 0.34F * p.fy, 0.94F * p.fy - 0.34F * p.fx};
+  };
+  const Field grit = Painted(sheet, [&](Spot p) {
+    const Spot q = turned(p);
+    return grain(q.fx * 0.30F, q.fy);
+  });
+  const Field level = Painted(sheet, [&](Spot p) {
+    const Spot q = turned(p);
+    const float nick = feather(q.fx * 0.45F, q.fy * 1.2F);
+    const CellSample chip = chips(q.fx * 0.5F + 14.0F * nick, q.fy + 10.0F * nick);
+    return 4.0F + 3.1F * lie(q.fx * 0.55F, q.fy) + 1.9F * shell(q.fx * 0.45F, q.fy) + 0.30F * nick +
+           0.35F * (chip.id - 0.5F);
+  });
+  const Field height = Painted(sheet, [&](Spot p) {
+    const Spot q = turned(p);
+    const float broad = Terraced(level(p), 0.035F);
+    const float thin = Terraced(level(p) * 3.7F + 0.4F, 0.04F);
+    const float where = SmoothRamp(-0.1F, 0.5F, swell(q.fx * 0.6F, q.fy));
+    return 3.4F * broad + 0.45F * thin * where + 0.22F * swell(q.fx * 0.5F, q.fy) +
+           0.20F * grit(p) + 0.16F * feather(q.fx * 0.35F, q.fy);
+  });
+  const Field light = Relief(sheet, height, 0.26F);
+  Field around = height;
+  Blur(sheet, around, 14.0F);
+  Field tone = Painted(sheet, [&](Spot p) {
+    const Spot q = turned(p);
+    const float layer = Unit(Hash(static_cast<std::uint32_t>(FloorInt(level(p) + 0.5F) + 40)));
+    float value =
+        0.44F + 0.17F * (layer - 0.5F) + 0.13F * tint(q.fx * 0.5F, q.fy) + 0.09F * grit(p);
+    // Hollows keep the dust, free edges are scuffed pale.
+    value += 0.055F * Clamp(height(p) - around(p), -2.5F, 2.5F);
+    value += (light(p) > 0.0F ? 0.32F : 0.46F) * light(p);
+    return value;
+  });
+  Soften(sheet, tone, 0.4F);
+  StretchTo(sheet, tone, 0.002F, 0.997F);
+  return tone;
+}
+
+const RegisteredTexture kRivenSlate(TextureRecipe{
+    .name = "Riven_Slate",
+    .set = TextureSet::kQuarry,
+    .effects = {"Stone/Minerals", "Texture (Heavy)", "Erosion (Medium)"},
+    .seed = 2030,
+    .paint = Paint});
+
+}  // namespace
+}  // namespace tarnwick::content
