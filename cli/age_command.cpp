@@ -7,12 +7,10 @@
 #include "age_picture.h"
 #include "command.h"
 #include "data_folders.h"
-#include "output_file.h"
 #include "output_plan.h"
 #include "picture_load.h"
 #include "picture_open.h"
-#include "presets/preset_file.h"
-#include "settings/ascii_text.h"
+#include "preset_save.h"
 #include "settings_recipe.h"
 #include "vips_library.h"
 
@@ -32,22 +30,6 @@ void TellWarnings(Console& console, const std::vector<std::string>& warnings, bo
       FailUse("--strict", warnings[i]);
     }
   }
-}
-
-void SavePreset(const AgeOptions& options, const ComposedSettings& composed) {
-  const fs::path& target = *options.savePreset;
-  RequireWritableTarget(target);
-  const std::string extension = "." + std::string(kPresetExtension);
-  if (!EqualIgnoringCase(target.extension().string(), extension)) {
-    FailUse(target.string(), "the name of a preset ends in " + extension, "add it");
-  }
-  OutputFile file(target, options.force);
-  const PresetSave outcome =
-      SavePresetFile(file.TemporaryPath(), options.saveKind, composed.settings, composed.session);
-  if (outcome != PresetSave::kSaved) {
-    FailInput(target.string(), DescribePresetSave(outcome), "check disk space");
-  }
-  file.Commit();
 }
 
 // Every input that can be opened has to fit; one that cannot fails in its turn.
@@ -118,7 +100,10 @@ ExitCode RunAge(Console& console, std::span<const std::string> words) {
   ComposedSettings composed = ComposeSettings(options.steps, folders);
   TellWarnings(console, composed.warnings, options.strict);
   const std::vector<PlannedOutput> plan = PlanOutputs(options);
-  if (options.savePreset) SavePreset(options, composed);
+  if (options.savePreset) {
+    SavePreset(*options.savePreset, options.saveKind, options.force, composed.settings,
+               composed.session);
+  }
   if (plan.empty()) return ExitCode::kDone;
 
   fs::path textures;

@@ -14,8 +14,9 @@
 namespace tarnwick {
 namespace {
 
-constexpr std::array<Command, 5> kCommands = {{
+constexpr std::array<Command, 6> kCommands = {{
     {"age", "age photographs", RunAge},
+    {"auto", "age a photograph with a look that dice throw", RunAuto},
     {"presets", "list, show and check presets", RunPresets},
     {"textures", "list textures and tell what is in one", RunTextures},
     {"texture", "make a texture from a picture, or a picture from a texture", RunTexture},
@@ -72,6 +73,17 @@ std::string CommandsHelp(std::span<const Command> commands) {
     help += line + std::string(command.summary) + "\n";
   }
   return help;
+}
+
+ExitCode RunGroup(Console& console, std::span<const std::string> arguments,
+                  const std::string& parent, std::span<const Command> commands,
+                  std::string_view examples) {
+  if (!arguments.empty() && (arguments[0] == "--help" || arguments[0] == "-h")) {
+    Print("usage: " + parent + " COMMAND ...\n\n" + CommandsHelp(commands) + "\nexamples:\n" +
+          std::string(examples));
+    return ExitCode::kDone;
+  }
+  return FindCommand(commands, arguments, parent).run(console, arguments.subspan(1));
 }
 
 void Print(std::string_view text) {

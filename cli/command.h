@@ -17,6 +17,7 @@ struct Command {
 };
 
 ExitCode RunAge(Console& console, std::span<const std::string> arguments);
+ExitCode RunAuto(Console& console, std::span<const std::string> arguments);
 ExitCode RunPresets(Console& console, std::span<const std::string> arguments);
 ExitCode RunTextures(Console& console, std::span<const std::string> arguments);
 ExitCode RunTexture(Console& console, std::span<const std::string> arguments);
@@ -30,6 +31,12 @@ ExitCode RunSettings(Console& console, std::span<const std::string> arguments);
 
 // Names and summaries as lines of help.
 [[nodiscard]] std::string CommandsHelp(std::span<const Command> commands);
+
+// A command with commands of its own, called by the first argument; --help lists
+// them and the examples.
+[[nodiscard]] ExitCode RunGroup(Console& console, std::span<const std::string> arguments,
+                                const std::string& parent, std::span<const Command> commands,
+                                std::string_view examples);
 
 // Writes to standard output. A full disk or a closed pipe is a failure of the
 // command, not something to be passed over.

@@ -6,6 +6,7 @@
 
 #include "cli_error.h"
 #include "settings/ascii_text.h"
+#include "textures/texture_catalogue.h"
 
 namespace tarnwick {
 namespace {
@@ -101,13 +102,7 @@ std::optional<std::string> SpellingIn(const fs::path& folder, const std::string&
 }
 
 std::vector<std::string> TextureNames(const fs::path& folder) {
-  std::vector<std::string> names;
-  std::error_code fault;
-  for (fs::directory_iterator entry(folder, fault), end; !fault && entry != end;
-       entry.increment(fault)) {
-    const fs::path name = entry->path().filename();
-    if (EqualIgnoringCase(name.extension().string(), ".twk")) names.push_back(name.string());
-  }
+  std::vector<std::string> names = ScanTextureNames(folder);
   std::sort(names.begin(), names.end());
   return names;
 }

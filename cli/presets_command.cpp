@@ -9,11 +9,14 @@
 #include "data_folders.h"
 #include "did_you_mean.h"
 #include "json_writer.h"
+#include "listing.h"
 #include "option_parser.h"
 #include "preset_library.h"
 #include "preset_summary.h"
+#include "presets/color_list.h"
 #include "presets/preset_check.h"
 #include "presets/preset_file.h"
+#include "settings/ascii_text.h"
 #include "text_table.h"
 
 namespace tarnwick {
@@ -21,8 +24,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::array<OptionRow, 5> kListOptions = {{
+constexpr std::array<OptionRow, 6> kListOptions = {{
     {"kind", 0, "KIND", "only basic, user, wash, surface, background, surface-color, back-palette"},
+    {"category", 0, "NAME", "only colour presets of this category, such as \"Red Tones\""},
     {"json", 0, "", "for programs to read"},
     kDataOption,
     kPresetsOption,
@@ -53,6 +57,27 @@ std::vector<PresetKind> WantedKinds(const ParsedArguments& arguments) {
   FailUse("--kind", "no kind is called \"" + *word + "\"", "use " + EitherOf(words));
 }
 
+// Of a colour preset; nothing for others.
+std::vector<std::string> CategoriesOf(const PresetEntry& entry) {
+  std::string joined;
+  if (IsColorKind(entry.kind)) (void)ReadColorCategoryOf(entry.path, joined);
+  return SplitCategories(joined);
+}
+
+// The category's own spelling, or null if none was asked for.
+const std::string_view* WantedCategory(const ParsedArguments& arguments) {
+  const std::string* given = arguments.Value("category");
+  if (given == nullptr) return nullptr;
+  std::vector<std::string> names;
+  for (const std::string_view& category : kColorCategories) {
+    if (category == kColorCategories[0] || category == kBlankCategory) continue;
+    if (EqualIgnoringCase(category, *given)) return &category;
+    names.emplace_back(category);
+  }
+  FailUse("--category", "no category is called \"" + *given + "\"",
+          DidYouMean(*given, names, "one of " + JoinNames(names)));
+}
+
 ExitCode List(Console&, std::span<const std::string> words) {
   const ParsedArguments arguments = ParseArguments(kListOptions, words);
   if (arguments.Has("help")) {
@@ -61,20 +86,28 @@ ExitCode List(Console&, std::span<const std::string> words) {
   }
   if (!arguments.operands.empty()) FailUse(arguments.operands[0], "presets list takes no name");
   const std::vector<PresetKind> kinds = WantedKinds(arguments);
+  const std::string_view* category = WantedCategory(arguments);
   const DataFolders folders(arguments);
-  JsonWriter json;
-  json.BeginArray();
-  std::vector<std::vector<std::string>> rows = {{"KIND", "NAME"}};
+  Listing listing({"KIND", "FOLDER", "NAME", "CATEGORIES"});
   for (const PresetEntry& entry : ListPresets(folders.Presets(), kinds)) {
-    json.BeginObject();
-    json.Key("kind").String(PresetKindWord(entry.kind));
+    const std::vector<std::string> categories = CategoriesOf(entry);
+    if (category != nullptr && std::ranges::find(categories, *category) == categories.end()) {
+      continue;
+    }
+    const std::string kind(PresetKindWord(entry.kind));
+    const std::size_t leaf = entry.name.rfind('/') + 1;
+    const std::string folder = leaf == 0 ? "" : entry.name.substr(0, leaf - 1);
+    JsonWriter& json = listing.Add({kind, folder, entry.name.substr(leaf), JoinNames(categories)});
+    json.Key("kind").String(kind);
+    json.Key("folder").String(folder);
     json.Key("name").String(entry.name);
     json.Key("path").String(entry.path.string());
-    json.EndObject();
-    rows.push_back({std::string(PresetKindWord(entry.kind)), entry.name});
+    if (!IsColorKind(entry.kind)) continue;
+    json.Key("categories").BeginArray();
+    for (const std::string& name : categories) json.String(name);
+    json.EndArray();
   }
-  json.EndArray();
-  Print(arguments.Has("json") ? json.Text() : AlignColumns(rows));
+  Print(listing.Text(arguments));
   return ExitCode::kDone;
 }
 
@@ -175,15 +208,11 @@ constexpr std::array<Command, 3> kCommands = {{
 }  // namespace
 
 ExitCode RunPresets(Console& console, std::span<const std::string> arguments) {
-  if (!arguments.empty() && (arguments[0] == "--help" || arguments[0] == "-h")) {
-    Print("usage: tarnwick presets COMMAND ...\n\n" + CommandsHelp(kCommands) +
-          "\nexamples:\n"
-          "  tarnwick presets list --kind wash\n"
-          "  tarnwick presets show \"Rusted Tin Sign\"\n"
-          "  tarnwick presets check mine.twkpst\n");
-    return ExitCode::kDone;
-  }
-  return FindCommand(kCommands, arguments, "tarnwick presets").run(console, arguments.subspan(1));
+  return RunGroup(console, arguments, "tarnwick presets", kCommands,
+                  "  tarnwick presets list --kind wash\n"
+                  "  tarnwick presets list --category \"Rust Tones\"\n"
+                  "  tarnwick presets show \"Rusted Tin Sign\"\n"
+                  "  tarnwick presets check mine.twkpst\n");
 }
 
 }  // namespace tarnwick

@@ -91,14 +91,9 @@ constexpr std::array<Command, 2> kCommands = {{
 }  // namespace
 
 ExitCode RunSettings(Console& console, std::span<const std::string> arguments) {
-  if (!arguments.empty() && (arguments[0] == "--help" || arguments[0] == "-h")) {
-    Print("usage: tarnwick settings COMMAND ...\n\n" + CommandsHelp(kCommands) +
-          "\nexamples:\n"
-          "  tarnwick settings list\n"
-          "  tarnwick settings describe WashCoverage1\n");
-    return ExitCode::kDone;
-  }
-  return FindCommand(kCommands, arguments, "tarnwick settings").run(console, arguments.subspan(1));
+  return RunGroup(console, arguments, "tarnwick settings", kCommands,
+                  "  tarnwick settings list\n"
+                  "  tarnwick settings describe WashCoverage1\n");
 }
 
 }  // namespace tarnwick

@@ -177,14 +177,9 @@ constexpr std::array<Command, 2> kCommands = {{
 }  // namespace
 
 ExitCode RunTexture(Console& console, std::span<const std::string> arguments) {
-  if (!arguments.empty() && (arguments[0] == "--help" || arguments[0] == "-h")) {
-    Print("usage: tarnwick texture COMMAND ...\n\n" + CommandsHelp(kCommands) +
-          "\nexamples:\n"
-          "  tarnwick texture import wall.jpg -o Wall.twk --effects \"Stone/Minerals\"\n"
-          "  tarnwick texture export Rusted.twk -o rusted.png\n");
-    return ExitCode::kDone;
-  }
-  return FindCommand(kCommands, arguments, "tarnwick texture").run(console, arguments.subspan(1));
+  return RunGroup(console, arguments, "tarnwick texture", kCommands,
+                  "  tarnwick texture import wall.jpg -o Wall.twk --effects \"Stone/Minerals\"\n"
+                  "  tarnwick texture export Rusted.twk -o rusted.png\n");
 }
 
 }  // namespace tarnwick

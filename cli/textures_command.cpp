@@ -6,19 +6,23 @@
 #include "data_folders.h"
 #include "did_you_mean.h"
 #include "json_writer.h"
+#include "listing.h"
 #include "option_parser.h"
 #include "option_values.h"
 #include "text_table.h"
+#include "texture_sets.h"
 #include "texture_summary.h"
 #include "textures/texture_effects.h"
+#include "textures/thumbnail_file.h"
 
 namespace tarnwick {
 namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::array<OptionRow, 6> kListOptions = {{
-    {"set-id", 0, "N", "only textures of this set"},
+constexpr std::array<OptionRow, 7> kListOptions = {{
+    {"set", 0, "NAME", "only textures of this set, such as \"Darkroom\""},
+    {"set-id", 0, "N", "the same by its number, which textures carry"},
     {"effect", 0, "NAME", "only textures with this effect, such as \"Metals\""},
     {"json", 0, "", "for programs to read"},
     kDataOption,
@@ -47,12 +51,24 @@ std::string SizeText(const TextureSummary& summary) {
   return std::to_string(summary.width) + " x " + std::to_string(summary.height);
 }
 
-void PutSummary(JsonWriter& json, const std::string& name, const TextureSummary& summary) {
+// The number of the set asked for, nothing for all of them.
+std::optional<std::uint32_t> WantedSet(const ParsedArguments& arguments,
+                                       const TextureSetTable& sets) {
+  const std::string* name = arguments.Value("set");
+  if (name != nullptr && arguments.Has("set-id")) FailUse("--set", "excludes --set-id");
+  if (name != nullptr) return RequireSet(sets, *name, "--set");
+  if (!arguments.Has("set-id")) return std::nullopt;
+  return static_cast<std::uint32_t>(NumberOption(arguments, "set-id", 0, UINT32_MAX, 0));
+}
+
+void PutSummary(JsonWriter& json, const std::string& name, const TextureSummary& summary,
+                const TextureSetTable& sets) {
   json.Key("name").String(name);
   json.Key("width").Number(std::int64_t{summary.width});
   json.Key("height").Number(std::int64_t{summary.height});
   json.Key("planes").Number(std::int64_t{summary.planes});
   json.Key("setId").Number(std::int64_t{summary.setId});
+  json.Key("set").String(FindSetName(sets, summary.setId));
   json.Key("effects").BeginArray();
   for (const std::string& effect : EffectNames(summary.effectMask)) json.String(effect);
   json.EndArray();
@@ -66,13 +82,11 @@ ExitCode List(Console& console, std::span<const std::string> words) {
   }
   if (!arguments.operands.empty()) FailUse(arguments.operands[0], "textures list takes no name");
   const std::uint32_t effect = WantedEffect(arguments);
-  constexpr std::int64_t kAnySet = -1;
-  const std::int64_t setId = NumberOption(arguments, "set-id", 0, UINT32_MAX, kAnySet);
   const DataFolders folders(arguments);
+  const TextureSetTable sets = LoadSetsOf(folders.Textures(), console);
+  const std::optional<std::uint32_t> setId = WantedSet(arguments, sets);
   ExitCode code = ExitCode::kDone;
-  JsonWriter json;
-  json.BeginArray();
-  std::vector<std::vector<std::string>> rows = {{"NAME", "SIZE", "SET", "EFFECTS"}};
+  Listing listing({"NAME", "SIZE", "SET", "EFFECTS"});
   for (const std::string& name : TextureNames(folders.Textures())) {
     const fs::path path = folders.Textures() / name;
     const std::optional<TextureSummary> summary = ReadTextureSummary(path);
@@ -81,16 +95,13 @@ ExitCode List(Console& console, std::span<const std::string> words) {
       code = ExitCode::kInputFailed;
       continue;
     }
-    if (setId != kAnySet && summary->setId != setId) continue;
+    if (setId && summary->setId != *setId) continue;
     if (effect != 0 && (summary->effectMask & effect) == 0) continue;
-    json.BeginObject();
-    PutSummary(json, name, *summary);
-    json.EndObject();
-    rows.push_back({name, SizeText(*summary), std::to_string(summary->setId),
-                    JoinNames(EffectNames(summary->effectMask))});
+    JsonWriter& json = listing.Add({name, SizeText(*summary), SetLabel(sets, summary->setId),
+                                    JoinNames(EffectNames(summary->effectMask))});
+    PutSummary(json, name, *summary, sets);
   }
-  json.EndArray();
-  Print(arguments.Has("json") ? json.Text() : AlignColumns(rows));
+  Print(listing.Text(arguments));
   return code;
 }
 
@@ -110,25 +121,40 @@ fs::path FindTexture(const std::string& name, const DataFolders& folders) {
   FailInput(name, "no such file", "check the name");
 }
 
-void Describe(const std::string& name, const DataFolders& folders, JsonWriter& json,
-              std::vector<std::vector<std::string>>& rows) {
+// What the drawer keeps beside a texture, so that it need not decode it again.
+std::string ThumbnailText(const fs::path& path) {
+  const std::string cache = ThumbnailPath(path.parent_path().string(), path.filename().string());
+  std::error_code fault;
+  if (!fs::exists(cache, fault)) return "none yet";
+  const auto picture = ReadThumbnail(cache);
+  if (!picture) return "unusable, will be made anew";
+  return std::to_string(picture->width) + " x " + std::to_string(picture->height);
+}
+
+void Describe(const std::string& name, const DataFolders& folders, const TextureSetTable& sets,
+              JsonWriter& json, std::vector<std::vector<std::string>>& rows) {
   const fs::path path = FindTexture(name, folders);
   const std::optional<TextureSummary> summary = ReadTextureSummary(path);
   if (!summary) FailInput(path.string(), "is no texture file", "make it again");
   const PayloadState state = CheckPayload(path, *summary);
+  const std::string thumbnail = ThumbnailText(path);
   json.BeginObject();
-  PutSummary(json, path.filename().string(), *summary);
+  PutSummary(json, path.filename().string(), *summary, sets);
   json.Key("path").String(path.string());
   json.Key("payload").String(DescribePayload(state));
   json.Key("usable").Bool(IsUsable(state));
+  json.Key("thumbnail").String(thumbnail);
   json.EndObject();
   const std::vector<std::string> effects = EffectNames(summary->effectMask);
   rows.push_back({path.string()});
   rows.push_back({"  size", SizeText(*summary)});
   rows.push_back({"  planes", summary->planes == 1 ? "1, grey" : "3, of which the first counts"});
-  rows.push_back({"  set", std::to_string(summary->setId)});
+  const std::string setName = FindSetName(sets, summary->setId);
+  rows.push_back(
+      {"  set", std::to_string(summary->setId) + (setName.empty() ? "" : ", " + setName)});
   rows.push_back({"  effects", effects.empty() ? "none" : JoinNames(effects)});
   rows.push_back({"  samples", DescribePayload(state)});
+  rows.push_back({"  thumbnail", thumbnail});
   if (!IsUsable(state)) {
     FailInput(path.string(), "its samples are " + DescribePayload(state), "make it again");
   }
@@ -142,6 +168,8 @@ ExitCode Info(Console& console, std::span<const std::string> words) {
   }
   if (arguments.operands.empty()) FailUse("textures info", "needs the name of a texture or file");
   const DataFolders folders(arguments);
+  TextureSetTable sets;
+  if (folders.HasTextures()) sets = LoadSetsOf(folders.Textures(), console);
   ExitCode code = ExitCode::kDone;
   JsonWriter json;
   json.BeginArray();
@@ -149,7 +177,7 @@ ExitCode Info(Console& console, std::span<const std::string> words) {
   for (const std::string& name : arguments.operands) {
     std::vector<std::vector<std::string>> rows;
     try {
-      Describe(name, folders, json, rows);
+      Describe(name, folders, sets, json, rows);
     } catch (const CliError& error) {
       console.Error(error.what());
       code = error.Code();
@@ -173,14 +201,10 @@ constexpr std::array<Command, 2> kCommands = {{
 }  // namespace
 
 ExitCode RunTextures(Console& console, std::span<const std::string> arguments) {
-  if (!arguments.empty() && (arguments[0] == "--help" || arguments[0] == "-h")) {
-    Print("usage: tarnwick textures COMMAND ...\n\n" + CommandsHelp(kCommands) +
-          "\nexamples:\n"
-          "  tarnwick textures list --effect Metals\n"
-          "  tarnwick textures info Rusted\n");
-    return ExitCode::kDone;
-  }
-  return FindCommand(kCommands, arguments, "tarnwick textures").run(console, arguments.subspan(1));
+  return RunGroup(console, arguments, "tarnwick textures", kCommands,
+                  "  tarnwick textures list --set Darkroom\n"
+                  "  tarnwick textures list --effect Metals\n"
+                  "  tarnwick textures info Rusted\n");
 }
 
 }  // namespace tarnwick

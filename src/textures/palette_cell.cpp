@@ -23,7 +23,8 @@ struct Tone {
 };
 
 Tone ToneOf(std::uint32_t color, std::int32_t percent) {
-  return {color, static_cast<float>(percent / 100)};
+  const std::int32_t weight = percent / 100;
+  return {color, static_cast<float>(weight)};
 }
 
 // The three tones at each grey, before the texture's inversion.

@@ -70,7 +70,7 @@ expect_silence
 
 # Help and version go to standard output, in silence.
 for command in "" age presets "presets list" "presets show" "presets check" textures \
-  "textures list" "textures info" texture "texture import" "texture export" settings \
+  "textures list" "textures info" auto texture "texture import" "texture export" settings \
   "settings list" "settings describe"; do
   # shellcheck disable=SC2086
   run $command --help
