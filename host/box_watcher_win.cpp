@@ -12,6 +12,15 @@ HostLog*& WatchedLog() {
   return log;
 }
 
+// A box that tells of the module has this caption.
+constexpr char kAboutCaption[] = "About ";
+
+bool IsAboutBox(HWND box) {
+  char caption[32] = {};
+  GetWindowTextA(box, caption, sizeof caption);
+  return std::strncmp(caption, kAboutCaption, sizeof kAboutCaption - 1) == 0;
+}
+
 // The static control of a message box that holds its text.
 constexpr int kBoxText = 0xFFFF;
 
@@ -21,7 +30,11 @@ LRESULT CALLBACK OnActivation(int code, WPARAM wParam, LPARAM lParam) {
     char className[16] = {};
     GetClassNameA(box, className, sizeof className);
     const HWND label = GetDlgItem(box, kBoxText);
-    if (std::strcmp(className, "#32770") == 0 && label != nullptr && WatchedLog() != nullptr) {
+    const bool isDialog = std::strcmp(className, "#32770") == 0 && WatchedLog() != nullptr;
+    if (isDialog && IsAboutBox(box)) {
+      ++WatchedLog()->aboutsShown;
+      PostMessageA(box, WM_COMMAND, IDOK, 0);
+    } else if (isDialog && label != nullptr) {
       char text[2048] = {};
       GetWindowTextA(label, text, sizeof text);
       WatchedLog()->boxes.emplace_back(text);

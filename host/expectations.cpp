@@ -134,6 +134,15 @@ void ExpectKeptBlocks(ScenarioRun& run, Words& words) {
           std::to_string(wanted));
 }
 
+// expect module-abouts NUMBER: boxes of the module's own that told of it; one that is
+// linked in has none.
+void ExpectModuleAbouts(ScenarioRun& run, Words& words) {
+  const int wanted = words.NextInt("number");
+  if (run.Host().module->TakesStandInDialog()) return;
+  Compare("the number of boxes", std::to_string(run.Host().log.aboutsShown),
+          std::to_string(wanted));
+}
+
 }  // namespace
 
 const CommandTable& Expectations() {
@@ -150,6 +159,7 @@ const CommandTable& Expectations() {
       {"selectors", ExpectSelectors},
       {"progress", ExpectProgress},
       {"kept-blocks", ExpectKeptBlocks},
+      {"module-abouts", ExpectModuleAbouts},
       {"max-space",
        Number("maxSpace", [](ScenarioRun& run) { return run.Host().Record().maxSpace; })},
       {"buffer-space",

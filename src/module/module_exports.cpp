@@ -1,10 +1,18 @@
 // What the module shows to the outside; TarnikStudi.def gives the plain names.
 #include <windows.h>
 
+#include "dialog/module_windows.h"
 #include "filter/plugin_main.h"
+
+namespace {
+
+tarnwick::ModuleWindows windows;
+
+}  // namespace
 
 extern "C" void PluginMain(std::int16_t selector, void* record, std::intptr_t* data,
                            std::int16_t* result) {
+  tarnwick::SetFilterWindows(&windows);
   tarnwick::RunSelector(selector, record, data, result);
 }
 

@@ -1,0 +1,8 @@
+// Numbers of dialogs and of what is in them; read by the resource compiler too.
+#pragma once
+
+#define TARNWICK_ABOUT_BOX 152
+#define TARNWICK_ABOUT_NAME 1500
+#define TARNWICK_ABOUT_VERSION 1501
+#define TARNWICK_ABOUT_PURPOSE 1502
+#define TARNWICK_ABOUT_LICENCE 1503
