@@ -1,4 +1,4 @@
-// Sand_Ripples: dry sand on the back of a dune, after a night of steady wind.
+// Dune_Sand: dry sand on the back of a dune, after a night of steady wind.
 // Ripples lie across the wind, long slopes towards it and short ones away;
 // they fork and end, swing around rises, and lose themselves in hollows where
 // coarse grains gather.
@@ -75,8 +75,8 @@ Field Paint(const Sheet& sheet) {
   return tone;
 }
 
-const RegisteredTexture kSandRipples(TextureRecipe{
-    .name = "Sand_Ripples",
+const RegisteredTexture kDuneSand(TextureRecipe{
+    .name = "Dune_Sand",
     .set = TextureSet::kWeatherStation,
     .effects = {"Stone/Minerals", "Erosion (Medium)", "Texture (Medium)"},
     .seed = 3032,
