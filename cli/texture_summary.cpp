@@ -12,8 +12,6 @@
 namespace tarnwick {
 namespace {
 
-constexpr std::size_t kSetIdOffset = 20;
-constexpr std::size_t kEffectMaskOffset = 28;
 constexpr std::size_t kChunk = 1u << 18;
 
 struct CloseFile {
@@ -61,8 +59,8 @@ std::optional<TextureSummary> ReadTextureSummary(const std::filesystem::path& pa
   summary.width = static_cast<int>(file.GetWidth());
   summary.height = static_cast<int>(file.GetHeight());
   summary.planes = file.GetChannels() == 1 ? 1 : 3;
-  summary.setId = file.HeaderWord(kSetIdOffset);
-  summary.effectMask = file.HeaderWord(kEffectMaskOffset);
+  summary.setId = file.HeaderWord(AWashFile::kSetIdOffset);
+  summary.effectMask = file.HeaderWord(AWashFile::kEffectMaskOffset);
   return summary;
 }
 

@@ -13,9 +13,6 @@ namespace {
 
 constexpr std::string_view kExtension = ".twk";
 constexpr std::uint32_t kMagic = 0x74776B31;  // "1kwt" in the file
-constexpr std::size_t kSetIdOffset = 20;
-constexpr std::size_t kHeaderWordOffset = 24;
-constexpr std::size_t kEffectMaskOffset = 28;
 
 using HeaderBytes = std::array<char, AWashFile::kHeaderBytes>;
 
@@ -47,9 +44,9 @@ void ReadRecordHeader(const std::string& folder, TextureRecord& record) {
   HeaderBytes bytes{};
   if (!file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()))) return;
   if (WordAt(bytes, 0) != kMagic) return;
-  record.headerWord = WordAt(bytes, kHeaderWordOffset);
-  record.effectMask = WordAt(bytes, kEffectMaskOffset);
-  record.setId = WordAt(bytes, kSetIdOffset);
+  record.headerWord = WordAt(bytes, AWashFile::kHeaderWordOffset);
+  record.effectMask = WordAt(bytes, AWashFile::kEffectMaskOffset);
+  record.setId = WordAt(bytes, AWashFile::kSetIdOffset);
 }
 
 }  // namespace tarnwick

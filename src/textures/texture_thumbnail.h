@@ -28,7 +28,6 @@ namespace tarnwick {
 // The picture of a cell: from the bitmap beside the texture, if it can be used,
 // else from the texture, and then it is kept as that bitmap. With `sizeCounts` a
 // bitmap of another size is made anew; cells that vary in size leave that out.
-// Decoding a texture takes about a hundred times as long as reading a bitmap.
 [[nodiscard]] std::optional<ThumbnailPicture> LoadOrMakeThumbnail(const std::string& folder,
                                                                   TextureRecord& record,
                                                                   ThumbnailSize size,

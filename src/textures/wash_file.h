@@ -26,6 +26,10 @@ class AWashFile {
   using Complain = std::function<void(const std::string& text)>;
   static constexpr std::size_t kHeaderBytes = 52;
   static constexpr std::size_t kOldHeaderBytes = 16;
+  // Words of the current form's header that the catalogue reads.
+  static constexpr std::size_t kSetIdOffset = 20;
+  static constexpr std::size_t kHeaderWordOffset = 24;
+  static constexpr std::size_t kEffectMaskOffset = 28;
 
   explicit AWashFile(Complain complain = {}) : complain_(std::move(complain)) {}
   ~AWashFile() { Close(); }
