@@ -1,3 +1,4 @@
+#include <array>
 #include <cstdlib>
 #include <cstring>
 #include <iterator>
@@ -32,8 +33,9 @@ SPErr TARNWICK_HOST_CALL AcquireSuite(const char* name, std::int32_t version, co
   const void* const table =
       host.options.refusedSuites.contains({name, version}) ? nullptr : FindSuite(name, version);
   if (table == nullptr) return host::kSPSuiteNotFoundError;
+  static const std::array<const void*, 64> kEmpty = {};
   ++host.suitesHeld[{name, version}];
-  *suite = table;
+  *suite = host.options.emptySuites.contains({name, version}) ? kEmpty.data() : table;
   return host::kSPNoError;
 }
 

@@ -29,7 +29,7 @@ void CheckAfterCall(TestHost& host) {
 
 std::int16_t Call(TestHost& host, std::int16_t selector) {
   host.log.selectors.push_back(selector);
-  std::int16_t result = 0;
+  auto result = static_cast<std::int16_t>(host.options.resultAtEntry);
   host.module->Call(selector, host.recordBytes, &host.dataSlot, &result);
   host.parameters = host.Record().parameters;
   CheckAfterCall(host);

@@ -52,6 +52,11 @@ void Refuse(ScenarioRun& run, Words& words) {
   run.Host().options.refusedSuites.insert(NextSuite(words));
 }
 
+// empty suite NAME VERSION: it is there, and none of its procedures is.
+void Empty(ScenarioRun& run, Words& words) {
+  run.Host().options.emptySuites.insert(NextSuite(words));
+}
+
 void Allow(ScenarioRun& run, Words& words) {
   run.Host().options.refusedSuites.erase(NextSuite(words));
 }
@@ -216,10 +221,10 @@ void Ignore(ScenarioRun& run, Words& words) {
 
 const CommandTable& HostCommands() {
   static const CommandTable table = {
-      {"host", SetHost},    {"option", Option}, {"refuse", Refuse}, {"allow", Allow},
-      {"fail", Fail},       {"module", Module}, {"file", File},     {"remove", Remove},
-      {"texture", Texture}, {"forget", Forget}, {"reload", Reload}, {"restart", Restart},
-      {"dialog", Dialog},   {"ignore", Ignore}, {"view", View},
+      {"host", SetHost},    {"option", Option},   {"refuse", Refuse}, {"allow", Allow},
+      {"empty", Empty},     {"fail", Fail},       {"module", Module}, {"file", File},
+      {"remove", Remove},   {"texture", Texture}, {"forget", Forget}, {"reload", Reload},
+      {"restart", Restart}, {"dialog", Dialog},   {"ignore", Ignore}, {"view", View},
   };
   return table;
 }

@@ -19,6 +19,7 @@ void SetOption(HostOptions& options, const std::string& name, const std::string&
   static const std::map<std::string, bool HostOptions::*> kSwitches = {
       {"broker", &HostOptions::broker},
       {"descriptors", &HostOptions::descriptors},
+      {"empty-procs", &HostOptions::emptyProcs},
       {"read-procs", &HostOptions::readProcs},
       {"write-procs", &HostOptions::writeProcs},
       {"big-document", &HostOptions::bigDocument},
@@ -43,6 +44,7 @@ void SetOption(HostOptions& options, const std::string& name, const std::string&
       {"finish-after-failed-start", &HostOptions::finishAfterFailedStart},
   };
   static const std::map<std::string, int HostOptions::*> kNumbers = {
+      {"result-at-entry", &HostOptions::resultAtEntry},
       {"row-padding", &HostOptions::rowPadding},
       {"sampling", &HostOptions::sampling},
       {"max-space", &HostOptions::maxSpace},

@@ -12,6 +12,9 @@ namespace tarnwick::testhost {
 struct HostOptions {
   bool broker = true;  // sSPBasic
   std::set<std::pair<std::string, int>> refusedSuites;
+  // Answered with a table of null procedures.
+  std::set<std::pair<std::string, int>> emptySuites;
+  bool emptyProcs = false;  // the same for the tables of descriptorParameters
   bool descriptors = true;  // descriptorParameters
   bool readProcs = true;
   bool writeProcs = true;
@@ -28,8 +31,9 @@ struct HostOptions {
   bool mask = true;   // delivers the selection
   bool depth = true;  // tells it; old hosts say 0
 
-  int rowPadding = 12;  // bytes after each row of a buffer
-  int sampling = 2;     // samplingSupport
+  int resultAtEntry = 0;  // what the module finds in its result
+  int rowPadding = 12;    // bytes after each row of a buffer
+  int sampling = 2;       // samplingSupport
   int maxSpace = 100000000;
   bool autoMask = false;          // commits through the selection
   bool staleMask = false;         // maskData is not null before it is asked for

@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "engine/golden_cases.h"
 #include "host/layer_fill.h"
 #include "host/scenario_run.h"
@@ -85,11 +87,28 @@ void ExpectPlanes(ScenarioRun& run, Words& words) {
           PlanesOf(document, before, low, high));
 }
 
+// expect plane A at most LIMIT and plane B of NAME: the lesser of both.
+void ExpectPlaneAtMost(ScenarioRun& run, Words& words, int plane) {
+  const Document& document = run.Host().document;
+  Layer before = document.layers.at(document.target);
+  words.Demand("most");
+  const auto limit = static_cast<std::uint8_t>(words.NextInt("limit"));
+  words.Demand("and");
+  words.Demand("plane");
+  const int other = words.NextInt("plane");
+  words.Demand("of");
+  before.samples = run.keptPixels.at(words.Next("name"));
+  Pnm wanted = PlanesOf(document, before, other, other);
+  for (std::uint8_t& sample : wanted.samples) sample = std::min(sample, limit);
+  Compare(PlanesOf(document, document.layers.at(document.target), plane, plane), wanted);
+}
+
 // expect plane A as plane B of NAME
 void ExpectPlane(ScenarioRun& run, Words& words) {
   const Document& document = run.Host().document;
   Layer before = document.layers.at(document.target);
   const int plane = words.NextInt("plane");
+  if (words.Accept("at")) return ExpectPlaneAtMost(run, words, plane);
   words.Demand("as");
   words.Demand("plane");
   const int other = words.NextInt("plane");

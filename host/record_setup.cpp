@@ -52,6 +52,12 @@ void SetCallbacks(TestHost& host, host::FilterRecord& record) {
         options.readProcs ? ReadDescriptorTable() : nullptr;
     host.descriptorParameters.writeDescriptorProcs =
         options.writeProcs ? WriteDescriptorTable() : nullptr;
+    if (options.emptyProcs) {
+      static host::ReadDescriptorProcs readsNothing = {};
+      static host::WriteDescriptorProcs writesNothing = {};
+      host.descriptorParameters.readDescriptorProcs = &readsNothing;
+      host.descriptorParameters.writeDescriptorProcs = &writesNothing;
+    }
   }
 }
 

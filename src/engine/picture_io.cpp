@@ -101,11 +101,11 @@ std::vector<std::uint8_t> ConversionRow(int width) {
 
 ApplyOutcome FetchSource(RenderState& state, const PictureJob& job) {
   state.progress.Report(0);
-  if (state.isCmyk && job.converter == nullptr) return ApplyOutcome::kNoConverter;
   const std::size_t bytes = state.PixelCount() * 4;
   if (!state.sourcePixels.Allocate(bytes) || !state.outputPixels.Allocate(bytes)) {
     return ApplyOutcome::kOutOfMemory;
   }
+  if (state.isCmyk && job.converter == nullptr) return ApplyOutcome::kNoConverter;
   const std::vector<int> columns =
       SampleAxis(state.viewOriginX, state.renderWidth, state.viewScale, job.width);
   const std::vector<int> rows =

@@ -9,7 +9,7 @@ namespace tarnwick {
 // Fills state.sourcePixels from `job.in` for the window of `state`, by nearest
 // neighbour, and starts outputPixels as a copy of it. Beyond the picture the
 // last row and column repeat. kBadPicture never; kOutOfMemory, kNoConverter as
-// in apply_run.h.
+// in apply_run.h; without a converter both are there, and transparent black.
 [[nodiscard]] ApplyOutcome FetchSource(RenderState& state, const PictureJob& job);
 
 // Writes state.outputPixels to `job.out`: below 4 planes alpha is multiplied in,

@@ -23,7 +23,8 @@ Folders FoldersOf(const std::string& moduleFile) {
   folders.helpFolder = folders.dataFolder + kSeparator + "Help" + kSeparator;
   folders.presetFolder = folders.dataFolder + kSeparator + "Presets" + kSeparator;
   folders.colorFolder = folders.presetFolder + "Colors";
-  return folders.colorFolder.size() > kLongestPath ? Folders{} : folders;
+  folders.backPaletteFolder = folders.presetFolder + "BackPalette" + kSeparator;
+  return folders.backPaletteFolder.size() > kLongestPath ? Folders{} : folders;
 }
 
 }  // namespace tarnwick

@@ -10,6 +10,7 @@ struct Folders {
   std::string helpFolder;    // with a separator at its end
   std::string presetFolder;  // with a separator at its end
   std::string colorFolder;
+  std::string backPaletteFolder;  // with a separator at its end
 };
 
 // The name that the module's file is expected to have.

@@ -3,6 +3,8 @@
 #include <array>
 #include <cstdio>
 #include <memory>
+#include <string>
+#include <vector>
 
 #include "environment/format_text.h"
 #include "presets/preset_lines.h"
@@ -30,6 +32,25 @@ std::string ReadAll(const std::string& path) {
   return bytes;
 }
 
+// The file by lines. A line ends at the first byte of at most 13, but for a TAB,
+// which becomes a blank; blanks at its end do not count. Unlike in presets, bytes of
+// other alphabets end no line, and the last one needs no end.
+std::vector<std::string> LinesOf(const std::string& bytes) {
+  std::vector<std::string> lines(1);
+  for (const char c : bytes) {
+    const auto byte = static_cast<unsigned char>(c);
+    if (byte == '\t') {
+      lines.back() += ' ';
+    } else if (byte <= 13) {
+      lines.emplace_back();
+    } else {
+      lines.back() += c;
+    }
+  }
+  for (std::string& line : lines) line.erase(line.find_last_not_of(' ') + 1);
+  return lines;
+}
+
 // Where the value of a key lives; null for a key that is none of ours.
 std::int32_t* PlaceOf(std::uint32_t key, EffectSettings& settings, UiValues& values) {
   switch (key) {
@@ -53,10 +74,8 @@ std::int32_t* PlaceOf(std::uint32_t key, EffectSettings& settings, UiValues& val
 }  // namespace
 
 void LoadUiFile(const std::string& path, EffectSettings& settings, UiValues& values) {
-  const std::string bytes = ReadAll(path);
-  PresetSource source{bytes, 0};
-  PresetLine line;
-  while (ReadPresetLine(source, line)) {
+  for (const std::string& text : LinesOf(ReadAll(path))) {
+    const PresetLine line{text, text.size()};
     PresetCursor cursor(line);
     cursor.SkipBlanks();
     const std::uint32_t key = cursor.TakeKey();

@@ -55,26 +55,14 @@ bool HostColorServices::Convert(ColorChannels& channels, std::int16_t fromSpace,
   return ColorConvert(services_, fromSpace, toSpace, channels.data()) == host::noErr;
 }
 
-HostRowConverter::HostRowConverter(host::SPBasicSuite* broker) : broker_(broker) {
-  if (broker_ == nullptr) return;
-  const void* found = nullptr;
-  if (broker_->AcquireSuite(host::kPSColorSpaceSuite, 1, &found) == host::kSPNoError) {
-    suite_ = static_cast<const host::PSColorSpaceSuite*>(found);
-  }
-}
-
-HostRowConverter::~HostRowConverter() {
-  if (suite_ != nullptr) broker_->ReleaseSuite(host::kPSColorSpaceSuite, 1);
-}
-
 bool HostRowConverter::RgbToCmyk(std::uint8_t* pixels, int count) {
-  return suite_ != nullptr &&
+  return suite_ &&
          suite_->Convert8(host::plugIncolorServicesRGBSpace, host::plugIncolorServicesCMYKSpace,
                           ColorsOf(pixels), static_cast<std::int16_t>(count)) == host::kSPNoError;
 }
 
 bool HostRowConverter::CmykToRgb(std::uint8_t* pixels, int count) {
-  return suite_ != nullptr &&
+  return suite_ &&
          suite_->Convert8(host::plugIncolorServicesCMYKSpace, host::plugIncolorServicesRGBSpace,
                           ColorsOf(pixels), static_cast<std::int16_t>(count)) == host::kSPNoError;
 }

@@ -3,6 +3,7 @@
 
 #include "engine/apply_run.h"
 #include "filter/filter_globals.h"
+#include "filter/host_suites.h"
 #include "imaging/color_services.h"
 
 namespace tarnwick {
@@ -32,19 +33,16 @@ class HostColorServices : public ColorServices {
 // as long as it lives.
 class HostRowConverter : public RowColorConverter {
  public:
-  explicit HostRowConverter(host::SPBasicSuite* broker);
-  ~HostRowConverter() override;
-  HostRowConverter(const HostRowConverter&) = delete;
-  HostRowConverter& operator=(const HostRowConverter&) = delete;
+  explicit HostRowConverter(host::SPBasicSuite* broker)
+      : suite_(broker, host::kPSColorSpaceSuite, 1) {}
 
   // False when the host lacks the suite.
-  [[nodiscard]] bool IsThere() const { return suite_ != nullptr; }
+  [[nodiscard]] bool IsThere() const { return static_cast<bool>(suite_); }
   bool RgbToCmyk(std::uint8_t* pixels, int count) override;
   bool CmykToRgb(std::uint8_t* pixels, int count) override;
 
  private:
-  host::SPBasicSuite* broker_;
-  const host::PSColorSpaceSuite* suite_ = nullptr;
+  ColorSpaceSuite suite_;
 };
 
 }  // namespace tarnwick

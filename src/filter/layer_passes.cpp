@@ -94,11 +94,11 @@ void WriteMask(FilterGlobals& g, const PictureJob& job) {
   RenderState& state = g.render;
   CopyInputToOutput(job);
   state.surfaceSave.Free();
-  PageBuffer<std::uint8_t> kept;
-  const bool hasSave = TakeKept(s.SavedSurfaceMask, state.PixelCount() * 4, kept);
-  state.keepSurfaceSave = s.WashUse != 0 && s.SurfaceUse != 0 && s.SurfaceEntire != 0 &&
-                          s.SurfaceIncludeWashArea != 0 && hasSave;
-  if (state.keepSurfaceSave) state.surfaceSave = std::move(kept);
+  const bool wantsSave =
+      s.WashUse != 0 && s.SurfaceUse != 0 && s.SurfaceEntire != 0 && s.SurfaceIncludeWashArea != 0;
+  // What is not wanted now stays for a later pass.
+  state.keepSurfaceSave =
+      wantsSave && TakeKept(s.SavedSurfaceMask, state.PixelCount() * 4, state.surfaceSave);
   const MaskTarget target{job.out, job.outRowBytes, job.width, job.height, job.planes};
   std::uintptr_t* const fields[2] = {&s.SavedWashMask1, &s.SavedWashMask2};
   const std::size_t washes = s.SecondWashExists != 0 ? 2 : 1;
@@ -115,6 +115,10 @@ void WriteMask(FilterGlobals& g, const PictureJob& job) {
 void KeepForLaterPass(FilterGlobals& g) {
   EffectSettings& s = *g.gParams;
   RenderState& state = g.render;
+  if (state.keepSurfaceSave || state.deferWash) {
+    // A host that lost the settings has lost what they named.
+    DropBlocksExcept({s.SavedWashMask1, s.SavedWashMask2, s.SavedSurfaceMask});
+  }
   if (state.keepSurfaceSave) {
     if (s.LinkNewWash == 0 && s.MaskLayerEffect != 0) {
       Keep(state.surfaceSave, s.SavedSurfaceMask);

@@ -1,6 +1,7 @@
 #include "filter/module_handle.h"
 
 #include "environment/platform_calls.h"
+#include "filter/suite_parts.h"
 
 namespace tarnwick {
 
@@ -10,8 +11,8 @@ void* GetModuleHandleFor(FilterGlobals& g, host::SPPlugin* pluginRef) {
         static_cast<const host::SPAccessSuite*>(AcquireSuite(g.gBasicSuite, g.accessSuite));
     host::SPAccess* access = nullptr;
     host::SPPlatformAccessInfo info{};
-    if (suite->GetPluginAccess(pluginRef, &access) == host::kSPNoError && access != nullptr &&
-        suite->GetAccessInfo(access, &info) == host::kSPNoError) {
+    if (HasParts(*suite) && suite->GetPluginAccess(pluginRef, &access) == host::kSPNoError &&
+        access != nullptr && suite->GetAccessInfo(access, &info) == host::kSPNoError) {
       g.moduleHandle = info.defaultAccess;
     }
   }

@@ -24,8 +24,14 @@ bool IsRenderable(const PictureJob& job) {
   constexpr std::int64_t kLongestSide = 46340;
   const std::int64_t width = job.width;
   const std::int64_t height = job.height;
-  return job.planes >= 1 && width >= 1 && height >= 1 && width <= kLongestSide &&
-         height <= kLongestSide && width * width + height * height <= INT32_MAX;
+  const std::int64_t rowBytes = width * job.planes;
+  const bool hasRows = job.inRowBytes >= rowBytes &&
+                       (job.out == nullptr || job.outRowBytes >= rowBytes) &&
+                       (job.selection == nullptr || job.selectionRowBytes >= width);
+  const int fewestPlanes = job.mode == ImageMode::kCmyk ? 4 : 1;
+  return hasRows && job.planes >= fewestPlanes && width >= 1 && height >= 1 &&
+         width <= kLongestSide && height <= kLongestSide &&
+         width * width + height * height <= INT32_MAX;
 }
 
 }  // namespace tarnwick

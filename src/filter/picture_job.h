@@ -11,7 +11,8 @@ namespace tarnwick {
 [[nodiscard]] PictureJob JobOf(const host::FilterRecord& record, const Rect& rect);
 
 // Any shape whose squared distances fit 32 bits: a strip may be longer than a
-// square's side.
+// square's side. Planes for all colours of a CMYK document, and rows as long as
+// they have to be.
 [[nodiscard]] bool IsRenderable(const PictureJob& job);
 
 }  // namespace tarnwick

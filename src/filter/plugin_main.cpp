@@ -48,6 +48,10 @@ void RunGuarded(std::int16_t selector, FilterGlobals& g) {
 void RunSelector(std::int16_t selector, void* record, std::intptr_t* data, std::int16_t* result) {
   if (record == nullptr || result == nullptr) return;
   const FloatState floats;
+  // A host may hand in the word of an earlier call. What nobody handles leaves it.
+  if (selector >= host::filterSelectorAbout && selector <= host::filterSelectorFinish) {
+    *result = host::noErr;
+  }
   FilterGlobals& g = Globals();
   g.gDataSlot = data;
   g.gResult = result;

@@ -88,12 +88,14 @@ class RunEnd {
 class SwitchesBack {
  public:
   SwitchesBack(FilterGlobals& g, const PassPlan& plan) : g_(g), plan_(plan) {}
-  ~SwitchesBack() {
+  ~SwitchesBack() { Restore(); }
+  SwitchesBack(const SwitchesBack&) = delete;
+  SwitchesBack& operator=(const SwitchesBack&) = delete;
+
+  void Restore() {
     if (plan_.backgroundHeld) g_.gParams->BackgroundUse = 1;
     if (g_.render.deferWash) g_.gParams->WashUse = 1;
   }
-  SwitchesBack(const SwitchesBack&) = delete;
-  SwitchesBack& operator=(const SwitchesBack&) = delete;
 
  private:
   FilterGlobals& g_;
@@ -111,22 +113,23 @@ ApplyOutcome RenderPass(FilterGlobals& g, const PictureJob& job, PassPlan& plan)
   RenderState& state = g.render;
   EffectSettings& settings = *g.gParams;
   const ApplyOutcome fetched = FetchSource(state, job);
-  if (fetched != ApplyOutcome::kDone) return fetched;
+  // Without a converter there is no source; all but the picture is as ever.
+  if (fetched != ApplyOutcome::kDone && fetched != ApplyOutcome::kNoConverter) return fetched;
+  settings.LinkNewLayer = 0;
   state.progress.Report(10);
   CreateLayers(g.layers, state, settings, g.session);
+  SwitchesBack back(g, plan);
   DecideBackground(g, plan);
   DecideMask(g, plan);
   if (plan.writesMask) {
     WriteMask(g, job);
     return ApplyOutcome::kDone;
   }
-  {
-    const SwitchesBack back(g, plan);
-    RenderPipeline(g.layers, state, settings, plan.view);
-  }
+  RenderPipeline(g.layers, state, settings, plan.view);
+  back.Restore();
   settings.LinkNewBackground = 0;
   settings.LinkNewSurface = 0;
-  const ApplyOutcome written = WriteResult(state, job);
+  const ApplyOutcome written = fetched == ApplyOutcome::kDone ? WriteResult(state, job) : fetched;
   state.progress.Report(state.progress.base, 0);
   KeepForLaterPass(g);
   return written;
@@ -165,24 +168,21 @@ void RenderEffects(FilterGlobals& g) {
   Progress progress;
   progress.sink = &sink;
 
-  LoadUiFile(UiFilePath(g), *g.gParams, g.ui);
+  ReadUiFile(g, *g.gParams);
   g.render.layerOutputMode = LayerOutputMode::kNormal;
   PassPlan plan = RoutePass(g);
   if (plan.passThrough) {
     CopyInputToOutput(job);
-    progress.Report(100, 0);
+    progress.Report(progress.base, 0);
     *g.gResult = host::noErr;
     return;
   }
-  g.gParams->LinkNewLayer = 0;
   const LayerOutputMode mode = g.render.layerOutputMode;
   const RunEnd end(g);
   BeginState(g, job, progress);
   g.render.layerOutputMode = mode;
   g.render.colorServices = &colors;
-  ApplyOutcome outcome = ApplyOutcome::kNoConverter;
-  if (job.mode != ImageMode::kCmyk || job.converter != nullptr) outcome = RenderPass(g, job, plan);
-  *g.gResult = ErrorOf(outcome);
+  *g.gResult = ErrorOf(RenderPass(g, job, plan));
 }
 
 }  // namespace tarnwick

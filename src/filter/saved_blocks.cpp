@@ -1,5 +1,8 @@
 #include "filter/saved_blocks.h"
 
+#include <algorithm>
+
+#include "base/page_memory.h"
 #include "environment/shared_pages.h"
 
 namespace tarnwick {
@@ -65,6 +68,16 @@ SavedBlock TakeBlock(std::uintptr_t address) {
   const SavedBlock block = BlockOf(entry);
   if (entry != nullptr) *entry = {};
   return block;
+}
+
+void DropBlocksExcept(const std::array<std::uintptr_t, 3>& inUse) {
+  while (Table::Entry* const entry = FindEntry([&](const Table::Entry& e) {
+           return e.address != 0 && std::find(inUse.begin(), inUse.end(), e.address) == inUse.end();
+         })) {
+    const SavedBlock block = BlockOf(entry);
+    *entry = {};
+    FreePages(block.pages, block.bytes);
+  }
 }
 
 std::int32_t TokenOf(std::uintptr_t address) {

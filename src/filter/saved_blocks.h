@@ -1,4 +1,5 @@
 #pragma once
+#include <array>
 #include <cstddef>
 #include <cstdint>
 
@@ -26,6 +27,9 @@ struct SavedBlock {
 
 // Takes the pages out of the table; they belong to the caller then.
 SavedBlock TakeBlock(std::uintptr_t address);
+
+// Frees all pages of the table but those at the addresses that are still in use.
+void DropBlocksExcept(const std::array<std::uintptr_t, 3>& inUse);
 
 // The integer that stands for an address.
 [[nodiscard]] std::int32_t TokenOf(std::uintptr_t address);

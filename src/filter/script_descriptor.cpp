@@ -5,6 +5,7 @@
 
 #include "filter/script_keys.h"
 #include "filter/scripting.h"
+#include "filter/suite_parts.h"
 #include "settings/settings_access.h"
 
 namespace tarnwick {
@@ -69,8 +70,9 @@ OSErr ReadValue(const host::ReadDescriptorProcs& procs, host::ReadDescriptor* to
       double value = 0;
       const OSErr error = procs.getUnitFloatProc(token, &unit, &value);
       if (error == host::noErr) {
-        const double limited = std::clamp(value, -32768.0, 32767.0);
-        StoreSettingNumber(field, static_cast<std::int64_t>(limited), *g.gParams, g.session);
+        if (const auto number = PercentNumber(value)) {
+          StoreSettingNumber(field, *number, *g.gParams, g.session);
+        }
       }
       return error;
     }
@@ -146,7 +148,7 @@ OSErr ReadScriptParameters(FilterGlobals& g, bool& displayDialog) {
   displayDialog = g.gData->queryForParameters != 0;
   host::PIDescriptorParameters* const parameters = g.gFilterRecord->descriptorParameters;
   if (parameters == nullptr || parameters->readDescriptorProcs == nullptr ||
-      parameters->descriptor == nullptr) {
+      parameters->descriptor == nullptr || !HasParts(*parameters->readDescriptorProcs)) {
     return host::noErr;
   }
   const host::ReadDescriptorProcs& procs = *parameters->readDescriptorProcs;
@@ -167,7 +169,10 @@ OSErr ReadScriptParameters(FilterGlobals& g, bool& displayDialog) {
 
 OSErr WriteScriptParameters(FilterGlobals& g) {
   host::PIDescriptorParameters* const parameters = g.gFilterRecord->descriptorParameters;
-  if (parameters == nullptr || parameters->writeDescriptorProcs == nullptr) return host::noErr;
+  if (parameters == nullptr || parameters->writeDescriptorProcs == nullptr ||
+      !HasParts(*parameters->writeDescriptorProcs)) {
+    return host::noErr;
+  }
   const host::WriteDescriptorProcs& procs = *parameters->writeDescriptorProcs;
   host::WriteDescriptor* const token = procs.openWriteDescriptorProc();
   if (token == nullptr) return host::errAEParamMissed;

@@ -1,5 +1,8 @@
 #include "filter/script_keys.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace tarnwick {
 namespace {
 
@@ -265,6 +268,11 @@ ScriptType ScriptTypeOf(const SettingField& field) {
       break;
   }
   return ScriptType::kInteger;
+}
+
+std::optional<std::int16_t> PercentNumber(double percent) {
+  if (std::isnan(percent)) return std::nullopt;
+  return static_cast<std::int16_t>(std::clamp(percent, -32768.0, 32767.0));
 }
 
 OSType DispositionCode(std::uint16_t disposition) {

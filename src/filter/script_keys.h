@@ -1,5 +1,6 @@
 #pragma once
 #include <cstdint>
+#include <optional>
 #include <span>
 
 #include "host_interface/host_types.h"
@@ -43,6 +44,9 @@ struct ScriptKey {
 // The keys that a recorded step is expected to have, ended by a zero: what the
 // host crosses off while it hands them out. The caller copies it for each read.
 [[nodiscard]] std::span<const host::OSType> ExpectedKeys();
+
+// A percentage as its 16-bit field takes it; nothing for what is no number.
+[[nodiscard]] std::optional<std::int16_t> PercentNumber(double percent);
 
 // Values of Disposition as they are stored.
 inline constexpr host::OSType kDispositionType = host::FourCC("mooD");

@@ -72,7 +72,7 @@ bool GetValue(const DescriptorSuite& suite, ActionDescriptor* from, const Settin
       OSType unit = 0;
       double value = 0;
       if (suite->GetUnitFloat(from, field.key, &unit, &value) != host::noErr) return false;
-      store(static_cast<std::int64_t>(std::clamp(value, -32768.0, 32767.0)));
+      if (const auto number = PercentNumber(value)) store(*number);
       return true;
     }
     case ScriptType::kString:

@@ -14,16 +14,15 @@ namespace tarnwick {
 namespace {
 
 // The largest tile that the hint to the host reckons with.
-constexpr std::int32_t kTileSide = 256;
+constexpr std::int64_t kTileSide = 256;
 
 // Both interfaces have to be there, and a reference has to come into being.
 bool HostAnswersActions(host::SPBasicSuite* broker) {
-  const DescriptorSuite descriptors(broker, host::kPSActionDescriptorSuite, 3);
-  if (!descriptors) return false;
+  if (!DescriptorSuite(broker, host::kPSActionDescriptorSuite, 3)) return false;
   const ReferenceSuite references(broker, host::kPSActionReferenceSuite, 3);
   if (!references) return false;
   host::ActionReference* reference = nullptr;
-  if (references->Make(&reference) != host::noErr) return false;
+  if (references->Make(&reference) != host::noErr || reference == nullptr) return false;
   references->Free(reference);
   return true;
 }
@@ -37,15 +36,30 @@ void InitBlocks(FilterGlobals& g) {
 
 void LowerMaxSpace(host::FilterRecord& record) {
   const Rect rect = GetFilterRect(record);
-  const std::int32_t planes = record.planes + (record.maskData != nullptr ? 1 : 0);
-  const std::int32_t worst =
-      2 * planes * std::min(rect.Height(), kTileSide) * std::min(rect.Width(), kTileSide);
-  record.maxSpace = std::min(record.maxSpace, worst);
+  const std::int64_t planes = record.planes + (record.maskData != nullptr ? 1 : 0);
+  const auto tile = [](std::int64_t from, std::int64_t to) {
+    return std::clamp<std::int64_t>(to - from, 0, kTileSide);
+  };
+  const std::int64_t worst = 2 * planes * tile(rect.top, rect.bottom) * tile(rect.left, rect.right);
+  if (worst >= 0 && worst < record.maxSpace) record.maxSpace = static_cast<std::int32_t>(worst);
 }
+
+// Whatever happens, the host is not asked for more.
+class RequestEnd {
+ public:
+  explicit RequestEnd(host::FilterRecord& record) : record_(record) {}
+  ~RequestEnd() { EmptyRequest(record_); }
+  RequestEnd(const RequestEnd&) = delete;
+  RequestEnd& operator=(const RequestEnd&) = delete;
+
+ private:
+  host::FilterRecord& record_;
+};
 
 // The bridge to the render: one request for everything.
 void StartProcessing(FilterGlobals& g) {
   host::FilterRecord& record = *g.gFilterRecord;
+  const RequestEnd end(record);
   record.inLoPlane = record.outLoPlane = 0;
   record.inHiPlane = record.outHiPlane = static_cast<std::int16_t>(record.planes - 1);
   InitPaths(g);
@@ -58,7 +72,6 @@ void StartProcessing(FilterGlobals& g) {
   *g.gResult =
       record.advanceState != nullptr ? record.advanceState() : host::errPlugInHostInsufficient;
   if (*g.gResult == host::noErr) RenderEffects(g);
-  EmptyRequest(record);
 }
 
 // True when the run is to go on.
@@ -80,8 +93,9 @@ void InitPaths(FilterGlobals& g) {
   g.folders = FoldersOf(ModuleFileName());
 }
 
-std::string UiFilePath(const FilterGlobals& g) {
-  return g.folders.modulePath + kUiFileName;
+void ReadUiFile(FilterGlobals& g, EffectSettings& settings) {
+  if (g.folders.modulePath.empty()) return;
+  LoadUiFile(g.folders.modulePath + kUiFileName, settings, g.ui);
 }
 
 void DoAbout(FilterGlobals& g) {
@@ -100,12 +114,17 @@ void DoParameters(FilterGlobals& g) {
 void DoPrepare(FilterGlobals& g) {
   InitPaths(g);
   // Only where an earlier selector has locked the settings; and into the block as
-  // it lies now, since it may have moved or gone since then.
+  // it lies now, since it may have moved since then. If it has gone, the file's
+  // other values count all the same.
   const bool readsUiFile = g.gParams != nullptr;
   g.HostHasActions = HostAnswersActions(g.gBasicSuite);
   if (HasSettings(g) && HasSession(g)) {
-    if (LockBlocks(g) && readsUiFile) LoadUiFile(UiFilePath(g), *g.gParams, g.ui);
+    if (LockBlocks(g) && readsUiFile) ReadUiFile(g, *g.gParams);
   } else {
+    if (readsUiFile) {
+      EffectSettings gone;
+      ReadUiFile(g, gone);
+    }
     InitBlocks(g);
   }
   g.gFilterRecord->bufferSpace = 0;

@@ -14,7 +14,8 @@ void DoFinish(FilterGlobals& g);
 
 // Finds the folders anew.
 void InitPaths(FilterGlobals& g);
-// Where the ini file lies.
-[[nodiscard]] std::string UiFilePath(const FilterGlobals& g);
+// Reads the ini file into `settings` and the run-time values; nothing where the
+// module does not know where it lies.
+void ReadUiFile(FilterGlobals& g, EffectSettings& settings);
 
 }  // namespace tarnwick

@@ -1,12 +1,14 @@
 #include "filter/suite_record.h"
 
+#include "filter/suite_parts.h"
+
 namespace tarnwick {
 
 const void* AcquireSuite(host::SPBasicSuite* broker, SuiteRecord& record) {
   if (record.suite != nullptr) return record.suite;
   record.lastError = host::kSPBadParameterError;
   const void* found = nullptr;
-  if (broker != nullptr) {
+  if (broker != nullptr && HasParts(*broker)) {
     record.lastError = broker->AcquireSuite(record.name, record.version, &found);
   }
   if (record.lastError != host::kSPNoError || found == nullptr) {

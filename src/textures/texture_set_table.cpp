@@ -63,7 +63,7 @@ class Parser {
     if (name.size() > kMaxSetName) {
       Fault("the name of set " + std::to_string(id) + " is longer than " +
             std::to_string(kMaxSetName) + " bytes and was cut");
-      name = name.substr(0, kMaxSetName);
+      name = Trimmed(name.substr(0, kMaxSetName));
     }
     if (const std::string earlier = FindSetName(sets_, id); !earlier.empty()) {
       Fault("set " + std::to_string(id) + " is named twice; it stays " + Quoted(earlier));

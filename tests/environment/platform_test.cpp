@@ -45,10 +45,11 @@ TEST(Folders, AreCutFromTheModulesNameByItsUsualLength) {
     EXPECT_EQ(folders.helpFolder, base + Native("Tarnwick Studio|Help|"));
     EXPECT_EQ(folders.presetFolder, base + Native("Tarnwick Studio|Presets|"));
     EXPECT_EQ(folders.colorFolder, base + Native("Tarnwick Studio|Presets|Colors"));
+    EXPECT_EQ(folders.backPaletteFolder, base + Native("Tarnwick Studio|Presets|BackPalette|"));
   }
-  // "|Tarnwick Studio|Presets|Colors" has 31 characters, the first of them the
+  // "|Tarnwick Studio|Presets|BackPalette|" has 37 characters, the first of them the
   // separator that ends the folder: 1023 is the longest that is used.
-  const std::string fits = std::string(992, 'x') + kSlash;
+  const std::string fits = std::string(986, 'x') + kSlash;
   EXPECT_EQ(FoldersOf(fits + kModuleFileName).modulePath, fits);
   EXPECT_EQ(FoldersOf('x' + fits + kModuleFileName).modulePath, "");
   EXPECT_EQ(FoldersOf("a.8bf").modulePath, "");
