@@ -19,9 +19,9 @@ Field Paint(const Sheet& sheet) {
   const float w = static_cast<float>(sheet.width);
   const float h = static_cast<float>(sheet.height);
   const Fbm bays{430.0F, 3, 0.5F, seed + 1};
-  const Fbm bites{110.0F, 5, 0.58F, seed + 2};
+  const Fbm bites{110.0F, 4, 0.58F, seed + 2};
   const Spots sparks{300.0F, 0.30F, 5.0F, 46.0F, seed + 3};
-  const Warp eaten{16.0F, {44.0F, 4, 0.6F, seed + 4}};
+  const Warp eaten{16.0F, {44.0F, 3, 0.6F, seed + 4}};
   // Pixels from the edge of what is left, inwards.
   const Field inside = Painted(sheet, [&](Spot p) {
     const float toSide = Min(p.fx, w - p.fx);
@@ -39,8 +39,10 @@ Field Paint(const Sheet& sheet) {
     }
     return left;
   });
-  const Fbm smoke{150.0F, 4, 0.56F, seed + 5};
-  const Fbm fine{13.0F, 4, 0.62F, seed + 6};
+  const Fbm smokeNoise{150.0F, 4, 0.56F, seed + 5};
+  const Field smoke = Painted(sheet, smokeNoise);
+  const Fbm fineNoise{13.0F, 4, 0.62F, seed + 6};
+  const Field fine = Painted(sheet, fineNoise);
   const Fbm vein{240.0F, 4, 0.55F, seed + 7};
   const Fbm grain{4.0F, 3, 0.7F, seed + 8};
   const Cells crazing{17.0F, 1.0F, seed + 9};

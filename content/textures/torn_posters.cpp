@@ -68,10 +68,10 @@ Field Print(const Sheet& sheet, const Bill& bill, std::uint32_t seed) {
 Field Paint(const Sheet& sheet) {
   const std::uint32_t seed = sheet.seed;
   const Fbm broad{560.0F, 3, 0.5F, seed + 1};
-  const Fbm rip{120.0F, 4, 0.58F, seed + 2};
+  const Fbm rip{120.0F, 3, 0.58F, seed + 2};
   const Fbm nick{22.0F, 3, 0.6F, seed + 3};
-  const Fbm paste{90.0F, 3, 0.5F, seed + 4};
-  const Fbm grime{380.0F, 4, 0.58F, seed + 5};
+  const Fbm paste{90.0F, 2, 0.5F, seed + 4};
+  const Fbm grime{380.0F, 3, 0.58F, seed + 5};
   const Fbm pulp{4.0F, 2, 0.7F, seed + 6};
   const Warp jerk{30.0F, {150.0F, 3, 0.6F, seed + 7}};
 
@@ -116,11 +116,12 @@ Field Paint(const Sheet& sheet) {
       return Mix(Mix(printed(p), lip, bare(p)), below, gone(p));
     });
   }
-  const Fbm crease{36.0F, 4, 0.55F, seed + 8};
+  const Fbm crease{36.0F, 3, 0.55F, seed + 8};
   Repaint(sheet, thickness, [&](Spot p) {
+    const float loose = SoftThreshold(paste(p), 0.1F, 0.5F);
+    if (loose <= 0.0F) return thickness(p);
     const float n = crease(p.fx * 0.9F, p.fy * 0.28F);
-    return thickness(p) +
-           0.5F * SmoothRamp(0.08F, 0.0F, Abs(n)) * SoftThreshold(paste(p), 0.1F, 0.5F);
+    return thickness(p) + 0.5F * SmoothRamp(0.08F, 0.0F, Abs(n)) * loose;
   });
   Blur(sheet, thickness, 0.8F);
   const Field light = Relief(sheet, thickness, 0.30F);

@@ -17,9 +17,9 @@ namespace {
 
 // Pixels to the right of the seam's middle.
 float FromSeam(const Sheet& sheet, Spot p) {
-  const Fbm bow{800.0F, 2, 0.4F, sheet.seed + 30};
   return p.fx - 0.70F * static_cast<float>(sheet.width) - 0.10F * p.fy +
-         0.05F * static_cast<float>(sheet.height) + 16.0F * bow(p.fy, 0.0F);
+         0.05F * static_cast<float>(sheet.height) +
+         16.0F * LineNoise(p.fy / 500.0F, sheet.seed + 30);
 }
 
 // A row of stitches: 0 none, 1 the top of a thread.
@@ -52,21 +52,22 @@ Field Paint(const Sheet& sheet) {
   const Survey<Weave::Place> places(sheet, [&](Spot p) { return twill.At(rough(drawn(p))); });
 
   // Whiskers fan out from the left, roping lies square to the seam.
-  const Fbm fan{120.0F, 4, 0.5F, seed + 5};
+  const Fbm fan{120.0F, 3, 0.5F, seed + 5};
   const Fbm rope{46.0F, 3, 0.5F, seed + 6};
-  const Fbm slack{500.0F, 4, 0.5F, seed + 7};
+  const Fbm slack{500.0F, 2, 0.5F, seed + 7};
   const Field swell = Painted(sheet, [&](Spot p) {
     const float dx = p.fx + 0.25F * w;
     const float angle = (p.fy - 0.38F * h) / (dx + 300.0F) * 900.0F;
     const float crest = 1.0F - Abs(fan(angle + 60.0F * slack(p), dx * 0.10F));
     const float whisker = crest * crest * crest * SmoothRamp(0.75F * w, 0.1F * w, p.fx);
     const float s = FromSeam(sheet, p);
-    const float roping = rope(s * 0.5F, p.fy + 0.9F * Abs(s)) * Exp(-Square(s / 52.0F));
+    const float roping =
+        Abs(s) < 160.0F ? rope(s * 0.5F, p.fy + 0.9F * Abs(s)) * Exp(-Square(s / 52.0F)) : 0.0F;
     const float ledge = SmoothRamp(-42.0F, -36.0F, s) * SmoothRamp(46.0F, 38.0F, s);
     return 1.3F * whisker + 1.5F * roping + 1.0F * ledge + 0.5F * slack(p);
   });
   const Field bend = Relief(sheet, swell, 0.05F);
-  const Fbm rub{260.0F, 5, 0.58F, seed + 8};
+  const Fbm rub{260.0F, 4, 0.58F, seed + 8};
   const Fbm fibre{3.0F, 2, 0.7F, seed + 9};
   const Fbm streak{26.0F, 3, 0.6F, seed + 10};
   Field tone = Painted(sheet, [&](Spot p) {
@@ -85,6 +86,7 @@ Field Paint(const Sheet& sheet) {
     const float gap =
         Max(Exp(-Square((s + 39.0F) / 3.0F)), 0.5F * Exp(-Square((s - 43.0F) / 3.0F)));
     value *= 1.0F - 0.7F * gap;
+    if (Abs(s) > 60.0F) return value;
     const float first = Stitch(s + 25.0F, p.fy, seed + 50);
     const float second = Stitch(s - 25.0F, p.fy + 13.0F, seed + 51);
     const float stitch = Max(first, second);

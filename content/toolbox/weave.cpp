@@ -48,6 +48,9 @@ Strand Highest(const Weave& weave, const Family& family, float side, float along
   Strand best;
   const int middle = FloorInt(side / family.pitch);
   for (int i = middle - 1; i <= middle + 1; ++i) {
+    // What noise can add is limited: most neighbours need none to be ruled out.
+    const float apart = Abs(side / family.pitch - static_cast<float>(i) - 0.5F);
+    if (apart >= weave.wander + 0.5F * family.fill * (1.0F + weave.uneven + weave.slub)) continue;
     const std::uint32_t word = HashAt(i, 77, family.seed);
     const float at = along + Unit(word) * 977.0F;
     const float centre =
