@@ -100,7 +100,7 @@ Field Paint(const Sheet& sheet) {
 
   const Field sweep = Painted(sheet, [&](Spot p) {
     const float bend = lie(p);
-    return brush(p.fx * 0.07F + 2.0F * bend, p.fy + 24.0F * bend);
+    return brush(p.fx * 0.07F + 2.0F * bend, p.fy + 9.0F * bend);
   });
   const Field height = Painted(sheet, [&](Spot p) {
     const BrickPlace& at = bricks(p);

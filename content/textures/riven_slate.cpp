@@ -26,12 +26,13 @@ float Terraced(float level, float sharp) {
 Field Paint(const Sheet& sheet) {
   const std::uint32_t seed = sheet.seed;
   const Fbm lie{720.0F, 3, 0.5F, seed};
-  const Fbm shell{210.0F, 6, 0.60F, seed + 10};
+  const Fbm shell{280.0F, 3, 0.45F, seed + 10};
   const Fbm feather{34.0F, 4, 0.66F, seed + 20};
   const Fbm grain{5.0F, 4, 0.72F, seed + 30};
   const Fbm swell{160.0F, 3, 0.5F, seed + 34};
   const Fbm tint{520.0F, 5, 0.55F, seed + 38};
-  const Cells chips{70.0F, 1.0F, seed + 44};
+  const Cells chips{150.0F, 1.0F, seed + 44};
+  const Cells slivers{58.0F, 1.0F, seed + 45};
 
   const auto turned = [](const Spot& p) {
     return Spot{p.x, p.y, 0.94F * p.fx + 0.34F * p.fy, 0.94F * p.fy - 0.34F * p.fx};
@@ -43,9 +44,13 @@ Field Paint(const Sheet& sheet) {
   const Field level = Painted(sheet, [&](Spot p) {
     const Spot q = turned(p);
     const float nick = feather(q.fx * 0.45F, q.fy * 1.2F);
-    const CellSample chip = chips(q.fx * 0.5F + 14.0F * nick, q.fy + 10.0F * nick);
-    return 4.0F + 3.1F * lie(q.fx * 0.55F, q.fy) + 1.9F * shell(q.fx * 0.45F, q.fy) + 0.30F * nick +
-           0.35F * (chip.id - 0.5F);
+    // Breaks are straight for a while and then turn: slate comes off in slivers.
+    const float x = q.fx * 0.42F + 5.0F * nick;
+    const float y = q.fy + 5.0F * nick;
+    const float chip = chips(x, y + 0.25F * q.fx).id - 0.5F;
+    const float sliver = slivers(x, y + 0.10F * q.fx).id - 0.5F;
+    return 4.0F + 2.6F * lie(q.fx * 0.55F, q.fy) + 1.1F * shell(q.fx * 0.45F, q.fy) + 1.05F * chip +
+           0.42F * sliver + 0.10F * nick;
   });
   const Field height = Painted(sheet, [&](Spot p) {
     const Spot q = turned(p);
@@ -53,7 +58,7 @@ Field Paint(const Sheet& sheet) {
     const float thin = Terraced(level(p) * 3.7F + 0.4F, 0.04F);
     const float where = SmoothRamp(-0.1F, 0.5F, swell(q.fx * 0.6F, q.fy));
     return 3.4F * broad + 0.45F * thin * where + 0.22F * swell(q.fx * 0.5F, q.fy) +
-           0.20F * grit(p) + 0.16F * feather(q.fx * 0.35F, q.fy);
+           0.34F * grit(p) + 0.16F * feather(q.fx * 0.35F, q.fy);
   });
   const Field light = Relief(sheet, height, 0.26F);
   Field around = height;
@@ -62,7 +67,7 @@ Field Paint(const Sheet& sheet) {
     const Spot q = turned(p);
     const float layer = Unit(Hash(static_cast<std::uint32_t>(FloorInt(level(p) + 0.5F) + 40)));
     float value =
-        0.44F + 0.17F * (layer - 0.5F) + 0.13F * tint(q.fx * 0.5F, q.fy) + 0.09F * grit(p);
+        0.44F + 0.17F * (layer - 0.5F) + 0.13F * tint(q.fx * 0.5F, q.fy) + 0.12F * grit(p);
     // Hollows keep the dust, free edges are scuffed pale.
     value += 0.055F * Clamp(height(p) - around(p), -2.5F, 2.5F);
     value += (light(p) > 0.0F ? 0.32F : 0.46F) * light(p);
