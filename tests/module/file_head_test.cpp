@@ -56,12 +56,12 @@ TEST(ModuleFile, ImportsOnlyTheSystem) {
   }
 }
 
-TEST(ModuleFile, HasItsThreeResources) {
+TEST(ModuleFile, HasItsResources) {
   std::vector<std::string> types;
   for (const PeResource& resource : BuiltModule().resources) types.push_back(resource.type);
   std::ranges::sort(types);
-  // 16: the version. Windows asks for types in capitals.
-  EXPECT_EQ(types, (std::vector<std::string>{"#16", "AETE", "PIPL"}));
+  // 5: the box about it; 16: the version. Windows asks for types in capitals.
+  EXPECT_EQ(types, (std::vector<std::string>{"#16", "#5", "AETE", "PIPL"}));
 }
 
 }  // namespace
