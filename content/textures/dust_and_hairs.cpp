@@ -42,7 +42,7 @@ void AddHairs(StrokeSet& set, const Sheet& sheet, int count, float coarse, std::
 void AddGrit(StrokeSet& set, const Sheet& sheet, std::uint32_t seed) {
   const float w = static_cast<float>(sheet.width);
   const float h = static_cast<float>(sheet.height);
-  const int swarms = FloorInt(w * h / 48000.0F) + 3;
+  const int swarms = FloorInt(w * h / 40000.0F) + 5;
   for (int i = 0; i < swarms; ++i) {
     Dice dice(seed, i);
     const float x = dice.Unit() * w;
@@ -66,7 +66,7 @@ void AddGrit(StrokeSet& set, const Sheet& sheet, std::uint32_t seed) {
 Field Paint(const Sheet& sheet) {
   const std::uint32_t seed = sheet.seed;
   StrokeSet sharp, soft;
-  AddHairs(sharp, sheet, 95, 1.0F, seed + 1);
+  AddHairs(sharp, sheet, 120, 1.1F, seed + 1);
   AddGrit(sharp, sheet, seed + 2);
   AddHairs(soft, sheet, 34, 2.0F, seed + 3);
   Field front(sheet), back(sheet);
@@ -76,14 +76,15 @@ Field Paint(const Sheet& sheet) {
   const Spots powder{15.0F, 0.17F, 0.5F, 2.0F, seed + 7};
   const Fbm where{300.0F, 4, 0.55F, seed + 8};
   const Fbm film{220.0F, 4, 0.55F, seed + 9};
+  const Fbm grain{2.8F, 2, 0.7F, seed + 10};
   Field tone = Painted(sheet, [&](Spot p) {
     const float thin = Clamp01(0.35F + 1.4F * where(p));
     const float dust = SmoothRamp(0.1F, 0.6F, powder(p).depth) * thin * 0.75F;
-    const float veil = 0.06F * Clamp01(0.2F + film(p));
+    const float veil = 0.06F * Clamp01(0.2F + film(p)) + 0.02F * (1.0F + grain(p));
     return 1.0F - Max(Max(front(p), 0.85F * back(p)), Max(dust, veil));
   });
   Soften(sheet, tone, 0.4F);
-  StretchTo(sheet, tone, 0.0005F, 0.5F);
+  StretchTo(sheet, tone, 0.0005F, 0.9F);
   return tone;
 }
 

@@ -107,7 +107,8 @@ Field Paint(const Sheet& sheet) {
     light *= 1.0F - 0.85F * comet(p);
     light *= 1.0F + 0.05F * silver(p) + 0.05F * cloud(p);
     // Bare plate: black, with the wipe of a cloth.
-    const float bare = 0.04F + 0.10F * Clamp01(smear(p.fx * 0.25F + p.fy, p.fy * 0.2F - p.fx)) +
+    const float bare = 0.05F + 0.035F * silver(p) +
+                       0.10F * Clamp01(smear(p.fx * 0.25F + p.fy, p.fy * 0.2F - p.fx)) +
                        0.30F * Exp(-Square((in + 7.0F) / 5.0F)) * Clamp01(0.4F + ooze(p));
     return Mix(bare, light, SmoothRamp(-2.0F, 2.0F, in));
   });
