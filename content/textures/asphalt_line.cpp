@@ -97,6 +97,7 @@ Field Paint(const Sheet& sheet) {
     value += (0.30F - 0.10F * paint) * light(p);
     return value * (1.0F - 0.85F * Min(1.0F, crack(p)) * (1.0F - even));
   });
+  Soften(sheet, tone, 0.40F);
   StretchTo(sheet, tone, 0.003F, 0.996F);
   return tone;
 }

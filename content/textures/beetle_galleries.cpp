@@ -139,6 +139,7 @@ Field Paint(const Sheet& sheet) {
     value *= 1.0F - 0.80F * grain(p).split;
     return value + 0.34F * light(p);
   });
+  Soften(sheet, tone, 0.35F);
   StretchTo(sheet, tone, 0.004F, 0.995F);
   return tone;
 }

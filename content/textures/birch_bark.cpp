@@ -125,6 +125,7 @@ Field Paint(const Sheet& sheet) {
     value = Mix(value, 0.08F + 0.10F * paper(p), Min(1.0F, scar(p)));
     return value + 0.13F * light(p);
   });
+  Soften(sheet, tone, 0.35F);
   StretchTo(sheet, tone, 0.003F, 0.93F);
   return tone;
 }

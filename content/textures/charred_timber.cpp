@@ -54,9 +54,9 @@ Field Paint(const Sheet& sheet) {
     const CellSample part = small.WithEdge(q.fx * 0.66F, q.fy);
     return Cushion{whole.edge * large.period, part.edge * small.period, whole.id};
   });
-  const Fbm grit{4.0F, 3, 0.7F, seed + 30};
+  const Field grit = Painted(sheet, Fbm{4.0F, 3, 0.7F, seed + 30});
   const Fbm open{60.0F, 3, 0.6F, seed + 31};
-  const auto gap = [&](Spot p) {
+  const Field gap = Painted(sheet, [&](Spot p) {
     const float burnt = Clamp01(heat(p) + 0.18F);
     const float wide = (1.2F + 6.0F * burnt) * (1.0F + 0.9F * open(p));
     const float again =
@@ -64,7 +64,7 @@ Field Paint(const Sheet& sheet) {
     return Max(SmoothRamp(wide + 1.8F, 0.35F * wide, cushions(p).edge),
                Min(1.0F, again) * SmoothRamp(again + 1.4F, 0.3F * again, cushions(p).fine)) *
            SmoothRamp(-0.22F, 0.06F, heat(p));
-  };
+  });
   const Field relief = Painted(sheet, [&](Spot p) {
     const float char01 = SmoothRamp(-0.15F, 0.25F, heat(p));
     const float round = Min(cushions(p).edge, 26.0F) / 26.0F;
@@ -90,6 +90,7 @@ Field Paint(const Sheet& sheet) {
                       SmoothRamp(0.1F, 0.5F, burnt);
     return Mix(value, 0.66F + 0.14F * grit(p) + 0.18F * light(p), 0.80F * ash);
   });
+  Soften(sheet, tone, 0.30F);
   StretchTo(sheet, tone, 0.004F, 0.995F);
   return tone;
 }

@@ -97,6 +97,7 @@ Field Paint(const Sheet& sheet) {
     value *= 1.0F - 0.55F * SmoothRamp(9.0F, 0.0F, at.below);
     return value + 0.30F * light(p);
   });
+  Soften(sheet, tone, 0.30F);
   StretchTo(sheet, tone, 0.004F, 0.997F);
   return tone;
 }

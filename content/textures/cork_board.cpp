@@ -123,6 +123,7 @@ Field Paint(const Sheet& sheet) {
     value += 0.24F * light(p);
     return Mix(value, 0.03F, 0.95F * SmoothRamp(0.3F, 0.8F, hole(p)));
   });
+  Soften(sheet, tone, 0.35F);
   StretchTo(sheet, tone, 0.003F, 0.996F);
   return tone;
 }

@@ -108,6 +108,7 @@ Field Paint(const Sheet& sheet) {
     value *= 1.0F - 0.75F * SmoothRamp(20.0F, 0.0F, at.below);
     return Mix(value, 0.30F + 0.35F * light(p), 0.8F * Min(1.0F, 1.4F * head(p)));
   });
+  Soften(sheet, tone, 0.35F);
   StretchTo(sheet, tone, 0.004F, 0.996F);
   return tone;
 }

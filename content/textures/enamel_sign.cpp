@@ -123,6 +123,7 @@ Field Paint(const Sheet& sheet) {
     value = Mix(value, iron, SmoothRamp(0.26F, 0.40F, d + 0.16F * rust(p)));
     return value + (0.05F + 0.22F * SmoothRamp(-0.1F, 0.1F, d)) * light(p);
   });
+  Soften(sheet, tone, 0.35F);
   StretchTo(sheet, tone, 0.002F, 0.60F);
   Repaint(sheet, tone, [&](Spot p) {
     return tone(p) > 0.9F ? Min(1.0F, 0.9F + (tone(p) - 0.9F) * 0.9F) : tone(p);

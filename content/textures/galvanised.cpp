@@ -73,7 +73,7 @@ Field Paint(const Sheet& sheet) {
     value = Mix(value, 0.82F + 0.14F * powder(p), 0.75F * white);
     return value + 0.26F * scratch(p) * (value < 0.55F ? 1.0F : -1.0F);
   });
-  Soften(sheet, tone, 0.25F);
+  Soften(sheet, tone, 0.45F);
   StretchTo(sheet, tone, 0.004F, 0.996F);
   return tone;
 }

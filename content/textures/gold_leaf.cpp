@@ -118,6 +118,7 @@ Field Paint(const Sheet& sheet) {
     value = Mix(value, clay, bare(p));
     return value + (0.32F - 0.18F * bare(p)) * light(p);
   });
+  Soften(sheet, tone, 0.35F);
   StretchTo(sheet, tone, 0.004F, 0.996F);
   return tone;
 }

@@ -101,6 +101,7 @@ Field Paint(const Sheet& sheet) {
     const float far = Length(p.fx - cx, p.fy - cy) / static_cast<float>(sheet.width);
     return value - 0.22F * SmoothRamp(0.25F, 0.75F, far);
   });
+  Soften(sheet, tone, 0.30F);
   StretchTo(sheet, tone, 0.004F, 0.997F);
   return tone;
 }

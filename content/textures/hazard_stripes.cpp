@@ -59,12 +59,11 @@ Field Paint(const Sheet& sheet) {
     const float along = 0.78F * p.fy - 0.626F * p.fx;
     return (across + 7.0F * hand(p) + 2.2F * bristle(along * 0.05F, across)) / 236.0F;
   };
-  const auto dark = [&](float bar) {
-    const float t = Fraction(bar * 0.5F) * 2.0F;  // 0..1 dark, 1..2 light
-    return SmoothRamp(-0.006F, 0.006F, Min(t, 1.0F - t)) > 0.5F ||
-                   (t < 1.0F && t > 0.006F && t < 0.994F)
-               ? 1.0F
-               : 0.0F;
+  // 1 on a dark bar, 0 on a light one, with a border as soft as wet paint's.
+  const auto dark = [](float bar) {
+    const float t = Fraction(bar * 0.5F) * 2.0F;
+    const float inside = t < 1.0F ? Min(t, 1.0F - t) : -Min(t - 1.0F, 2.0F - t);
+    return SmoothRamp(-0.005F, 0.005F, inside);
   };
   const Field loss = Painted(sheet, [&](Spot p) {
     const Spot q = crooked(p);
@@ -87,13 +86,20 @@ Field Paint(const Sheet& sheet) {
   const Fbm rust{120.0F, 6, 0.64F, seed + 20};
   Field tone = Painted(sheet, [&](Spot p) {
     const float grime = 0.10F * weather(p.fx + 800.0F, p.fy) + 0.05F * nibble(p);
-    const float upper = dark(barAt(p, 0.0F)) > 0.5F ? 0.13F - 0.3F * grime : 0.91F + 0.8F * grime;
-    const float lower = dark(barAt(p, 31.0F)) > 0.5F ? 0.27F + 0.5F * grime : 0.74F + grime;
-    float iron = 0.47F + 0.16F * rust(p) + 0.07F * nibble(p) + 0.07F * grit(p);
-    iron = Mix(iron, 0.25F + 0.10F * nibble(p) + 0.06F * grit(p),
-               SoftThreshold(rust(p), 0.02F, 0.30F));
-    iron = Mix(iron, 0.70F + 0.08F * grit(p), 0.6F * Min(1.0F, scrape(p)));
-    float value = Mix(Mix(iron, lower, first.cover(p)), upper, second.cover(p));
+    float value = Mix(0.91F + 0.8F * grime, 0.13F - 0.3F * grime, dark(barAt(p, 0.0F)));
+    // What lies below costs work only where it shows.
+    if (second.cover(p) < 1.0F) {
+      const float lower = Mix(0.74F + grime, 0.27F + 0.5F * grime, dark(barAt(p, 31.0F)));
+      value = Mix(lower, value, second.cover(p));
+    }
+    if (first.cover(p) < 1.0F) {
+      const float scale = rust(p);
+      float iron = 0.47F + 0.16F * scale + 0.07F * nibble(p) + 0.07F * grit(p);
+      iron = Mix(iron, 0.25F + 0.10F * nibble(p) + 0.06F * grit(p),
+                 SoftThreshold(scale, 0.02F, 0.30F));
+      iron = Mix(iron, 0.70F + 0.08F * grit(p), 0.6F * Min(1.0F, scrape(p)));
+      value = Mix(iron, value, Max(first.cover(p), second.cover(p)));
+    }
     value *= 1.0F - 0.40F * second.shadow(p) * (1.0F - second.cover(p));
     return value + 0.15F * light(p);
   });

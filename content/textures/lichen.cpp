@@ -46,8 +46,8 @@ Field Paint(const Sheet& sheet) {
   });
 
   const Fbm grit{5.0F, 4, 0.72F, seed + 10};
-  const Fbm rock{190.0F, 6, 0.6F, seed + 11};
-  const Fbm lump{26.0F, 4, 0.6F, seed + 12};
+  const Field rock = Painted(sheet, Fbm{190.0F, 6, 0.6F, seed + 11});
+  const Field lump = Painted(sheet, Fbm{26.0F, 4, 0.6F, seed + 12});
   const Cells areoles{17.0F, 1.0F, seed + 13};
   const Spots cups{15.0F, 0.5F, 1.6F, 5.5F, seed + 14};
   struct Detail {
@@ -94,6 +94,7 @@ Field Paint(const Sheet& sheet) {
     float value = Mix(stone, body, SmoothRamp(-0.3F, 2.5F, at.inside));
     return value + 0.26F * light(p);
   });
+  Soften(sheet, tone, 0.45F);
   StretchTo(sheet, tone, 0.004F, 0.996F);
   return tone;
 }

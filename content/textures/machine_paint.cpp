@@ -35,14 +35,13 @@ Field Paint(const Sheet& sheet) {
     return Plate{cell.edge * cells.period, cell.dx, cell.dy, cell.id, Unit(Hash(cell.hash + 1))};
   });
   const Fbm weather{360.0F, 5, 0.56F, seed + 10};
-  const Fbm nibble{24.0F, 4, 0.62F, seed + 11};
+  const Field nibble = Painted(sheet, Fbm{24.0F, 4, 0.62F, seed + 11});
   // Knocked about most along the lower edge and in one corner.
-  const auto abuse = [&](Spot p) {
+  const Field wear = Painted(sheet, [&](Spot p) {
     return 0.75F * SmoothRamp(0.55F, 1.05F, p.fy / height) +
            0.55F * SmoothRamp(0.55F, 0.0F, Length(p.fx / width - 0.95F, p.fy / height - 0.1F)) +
            1.15F * weather(p);
-  };
-  const Field wear = Painted(sheet, [&](Spot p) { return abuse(p); });
+  });
   const Field loss = Painted(sheet, [&](Spot p) {
     const Plate& at = plates(p);
     return wear(p) + 0.62F * (at.own - 0.5F) + 0.12F * SmoothRamp(9.0F, 0.0F, at.edge) +
@@ -57,14 +56,14 @@ Field Paint(const Sheet& sheet) {
       Peel(sheet, deep, {.at = 0.66F, .softness = 0.03F, .curl = 4.0F, .thickness = 3.0F});
 
   const Fbm brush{9.0F, 3, 0.6F, seed + 20};
-  const Fbm grit{4.5F, 3, 0.7F, seed + 21};
-  const Fbm cloud{240.0F, 5, 0.58F, seed + 22};
+  const Field grit = Painted(sheet, Fbm{4.5F, 3, 0.7F, seed + 21});
+  const Field cloud = Painted(sheet, Fbm{240.0F, 5, 0.58F, seed + 22});
   const Fbm open{90.0F, 3, 0.55F, seed + 23};
-  const auto crack = [&](Spot p) {
+  const Field crack = Painted(sheet, [&](Spot p) {
     const float tired = SmoothRamp(-0.52F, 0.15F, wear(p) + 0.25F * open(p));
     const float wide = 0.8F + 2.4F * tired + 1.2F * open(p);
     return tired * SmoothRamp(wide + 1.2F, 0.4F * wide, plates(p).edge) * top.cover(p);
-  };
+  });
   const Field relief = Painted(sheet, [&](Spot p) {
     const Plate& at = plates(p);
     const float tired = SmoothRamp(-0.40F, 0.35F, wear(p));
@@ -87,6 +86,7 @@ Field Paint(const Sheet& sheet) {
     value += 0.30F * light(p);
     return value * (1.0F - 0.85F * crack(p));
   });
+  Soften(sheet, tone, 0.45F);
   StretchTo(sheet, tone, 0.004F, 0.995F);
   return tone;
 }

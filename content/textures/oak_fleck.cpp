@@ -43,10 +43,10 @@ Field Paint(const Sheet& sheet) {
   });
   const Fbm silk{2.6F, 2, 0.7F, seed + 14};
   const Fbm wax{360.0F, 5, 0.55F, seed + 20};
-  const auto dash = [&](Spot p) {
+  const Field dash = Painted(sheet, [&](Spot p) {
     return SoftThreshold(pores(along(p), p.fy * 0.075F) + 0.22F * (0.5F - year(p)), 0.42F, 0.20F) *
            (1.0F - 0.85F * fleck(p));
-  };
+  });
   const Field height = Painted(sheet, [&](Spot p) {
     return 0.30F * fleck(p) - 0.40F * dash(p) + 0.20F * streak(along(p), p.fy * 0.03F);
   });

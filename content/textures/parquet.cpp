@@ -101,11 +101,11 @@ Field Paint(const Sheet& sheet) {
     const float way = (0.35F * p.fx / width + p.fy / height) - 0.72F;
     return SmoothRamp(0.42F, 0.0F, Abs(way)) + 0.85F * wax(p);
   });
-  const auto joint = [&](Spot p) {
+  const Field joint = Painted(sheet, [&](Spot p) {
     const Block& at = floor(p);
     const float wide = 1.1F + 1.3F * Unit(Hash(at.hash + 5)) + 1.2F * dirt(p);
     return SmoothRamp(wide + 1.3F, 0.4F * wide, at.toJoint) * Clamp01(0.75F + 0.9F * dirt(p));
-  };
+  });
   const Field relief = Painted(sheet, [&](Spot p) {
     const Block& at = floor(p);
     const float high = 2.2F * Unit(Hash(at.hash + 6)) +
@@ -125,6 +125,7 @@ Field Paint(const Sheet& sheet) {
     value += 0.24F * light(p) + (0.10F + 0.18F * dull) * mark(p);
     return value * (1.0F - 0.82F * joint(p));
   });
+  Soften(sheet, tone, 0.30F);
   StretchTo(sheet, tone, 0.004F, 0.996F);
   return tone;
 }

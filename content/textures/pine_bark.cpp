@@ -72,6 +72,7 @@ Field Paint(const Sheet& sheet) {
     value += 0.11F * Clamp(height(p) - hollow(p), -2.0F, 1.2F) + 0.25F * light(p);
     return value * (1.0F - 0.88F * at.furrow * (1.0F - 0.25F * skin(p)));
   });
+  Soften(sheet, tone, 0.35F);
   StretchTo(sheet, tone, 0.004F, 0.996F);
   return tone;
 }

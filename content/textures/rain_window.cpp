@@ -63,6 +63,7 @@ Field Paint(const Sheet& sheet) {
   const Runs runs = MakeRuns(sheet, seed + 1);
   Field swept(sheet);
   runs.paths.Draw(sheet, swept, {.ragged = 2.0F, .raggedPeriod = 17.0F, .seed = seed + 2});
+  Blur(sheet, swept, 2.2F);
   Field water(sheet);
   runs.beads.Draw(
       sheet, water,
@@ -96,7 +97,7 @@ Field Paint(const Sheet& sheet) {
     // The street below is dark, the sky above bright; fog on the pane hides both.
     const float view = SmoothRamp(1.15F, -0.1F, p.fy / height) + 0.30F * world(p);
     float value = 0.66F + 0.20F * (view - 0.5F) + 0.05F * film(p);
-    value = Mix(value, 0.58F + 0.34F * (view - 0.5F), 0.55F * swept(p));
+    value = Mix(value, 0.44F + 0.40F * (view - 0.5F), 0.60F * swept(p));
     const float there = depth(p);
     if (there > 0.05F) {
       const Slope slope = SlopeAt(depth, p.x, p.y);

@@ -68,11 +68,11 @@ Field Paint(const Sheet& sheet) {
     return Cut{grain, stroke, SoftThreshold(stuck, 0.46F, 0.22F)};
   });
   const Fbm fuzz{2.6F, 2, 0.75F, seed + 20};
-  const auto gap = [&](Spot p) {
+  const Field gap = Painted(sheet, [&](Spot p) {
     const Board& at = boards(p);
     const float side = Min(at.v, at.breadth - at.v);
     return SmoothRamp(5.5F, 2.0F, side + 1.2F * chip(p));
-  };
+  });
   const Field relief = Painted(sheet, [&](Spot p) {
     const Board& at = boards(p);
     const Cut& cut = cuts(p);

@@ -98,22 +98,25 @@ Field Paint(const Sheet& sheet) {
   const Fbm back{34.0F, 5, 0.64F, seed + 32};
   Field tone = Painted(sheet, [&](Spot p) {
     const float l = loss(p);
+    const float speck = dust(p);
+    const float patch = l > 0.5F ? back(p) : 0.0F;
     float value = 0.985F + 0.05F * cloud(p) - 0.16F * SmoothRamp(0.05F, 0.5F, l);
-    value -= 0.04F * Max(0.0F, dust(p));
+    value -= 0.04F * Max(0.0F, speck);
     value *= 1.0F - 0.75F * freckle(p);
     value *= 1.0F - 0.60F * worm(p);
     // Tarnish: a pale bloom first, then a brown hem, then black.
     const float bloom = SmoothRamp(0.40F, 0.53F, l) * SmoothRamp(0.60F, 0.55F, l);
     value = Mix(value, 0.99F, 0.6F * bloom);
     const float grey = SmoothRamp(0.56F, 0.60F, l);
-    value = Mix(value, 0.52F + 0.16F * back(p) + 0.05F * dust(p), grey);
+    value = Mix(value, 0.52F + 0.16F * patch + 0.05F * speck, grey);
     const float hem = SmoothRamp(0.05F, 0.0F, Abs(l - 0.615F));
     value *= 1.0F - 0.45F * hem;
-    const float black = SmoothRamp(0.70F, 0.80F, l + 0.10F * back(p));
-    value = Mix(value, 0.10F + 0.07F * back(p) + 0.03F * dust(p), black);
-    const float bare = SmoothRamp(1.04F, 1.10F, l + 0.12F * back(p));
-    return Mix(value, 0.34F + 0.13F * back(p) + 0.06F * dust(p), 0.8F * bare);
+    const float black = SmoothRamp(0.70F, 0.80F, l + 0.10F * patch);
+    value = Mix(value, 0.10F + 0.07F * patch + 0.03F * speck, black);
+    const float bare = SmoothRamp(1.04F, 1.10F, l + 0.12F * patch);
+    return Mix(value, 0.34F + 0.13F * patch + 0.06F * speck, 0.8F * bare);
   });
+  Soften(sheet, tone, 0.40F);
   StretchTo(sheet, tone, 0.003F, 0.62F);
   return tone;
 }

@@ -27,7 +27,8 @@ Field Paint(const Sheet& sheet) {
   });
   const Fbm waver{300.0F, 5, 0.55F, seed + 2};
   // 0 at the top of the wall, 1 at its foot.
-  const auto level = [&](Spot p) { return p.fy / height + 0.075F * waver(p.fx, p.fy * 0.7F); };
+  const Field level =
+      Painted(sheet, [&](Spot p) { return p.fy / height + 0.075F * waver(p.fx, p.fy * 0.7F); });
   const Warp odd{3.0F, {12.0F, 2, 0.5F, seed + 3}};
   const Spots large{34.0F, 0.80F, 6.0F, 17.0F, seed + 4};
   const Spots small{16.0F, 0.75F, 2.6F, 7.0F, seed + 5};
@@ -67,9 +68,9 @@ Field Paint(const Sheet& sheet) {
               }),
       [&](Spot) { return 0.9972F; }, [&](Spot p) { return 0.3F * sway(p.fx, p.fy * 0.4F); });
 
-  const Fbm cast{240.0F, 6, 0.6F, seed + 20};
-  const Fbm grit{5.0F, 3, 0.72F, seed + 21};
-  const Fbm lump{40.0F, 4, 0.6F, seed + 22};
+  const Field cast = Painted(sheet, Fbm{240.0F, 6, 0.6F, seed + 20});
+  const Field grit = Painted(sheet, Fbm{5.0F, 3, 0.72F, seed + 21});
+  const Field lump = Painted(sheet, Fbm{40.0F, 4, 0.6F, seed + 22});
   const Spots holes{44.0F, 0.35F, 1.5F, 9.0F, seed + 23};
   const Field relief = Painted(sheet, [&](Spot p) {
     const float v = level(p);
@@ -98,6 +99,7 @@ Field Paint(const Sheet& sheet) {
     }
     return value + 0.27F * light(p);
   });
+  Soften(sheet, tone, 0.35F);
   StretchTo(sheet, tone, 0.004F, 0.995F);
   return tone;
 }

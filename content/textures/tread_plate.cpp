@@ -84,8 +84,8 @@ Field Paint(const Sheet& sheet) {
     return SmoothRamp(0.45F, 0.0F, Abs(way)) + 0.65F * tread(p);
   });
   const Field dirt = Painted(sheet, [&](Spot p) {
-    const float corner = SmoothRamp(26.0F, 0.0F, plate(p).near) * (1.0F - plate(p).rise);
-    return SoftThreshold(mud(p) + 0.34F * corner - 0.30F * worn(p) + 0.10F * pit(p), 0.06F, 0.36F) *
+    const float corner = SmoothRamp(20.0F, 0.0F, plate(p).near) * (1.0F - plate(p).rise);
+    return SoftThreshold(mud(p) + 0.16F * corner - 0.30F * worn(p) + 0.10F * pit(p), 0.06F, 0.36F) *
            (1.0F - 0.85F * plate(p).rise);
   });
   const Field relief = Painted(sheet, [&](Spot p) {
@@ -102,6 +102,7 @@ Field Paint(const Sheet& sheet) {
     value += (0.34F - 0.20F * dirt(p)) * light(p);
     return value + scratch(p) * (0.10F + 0.22F * bright);
   });
+  Soften(sheet, tone, 0.30F);
   StretchTo(sheet, tone, 0.004F, 0.996F);
   return tone;
 }
