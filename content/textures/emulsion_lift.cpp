@@ -34,8 +34,13 @@ Field Wrinkles(const Sheet& sheet, std::uint32_t seed, int count, float coarse) 
               .skipPeriod = 70.0F,
               .step = 7.0F,
               .seed = dice.Word()};
+    if (i % 6 == 5) {
+      // Some lie free in the middle, where a finger pushed water out.
+      walk.length *= 1.8F;
+      walk.radius *= 0.8F;
+    }
     const float lean = dice.Around(0.0F, 0.75F);
-    const float in = dice.Between(20.0F, 110.0F);
+    const float in = i % 6 == 5 ? dice.Between(0.3F, 0.6F) * h : dice.Between(20.0F, 110.0F);
     if (at < w) {
       walk.x = at, walk.y = in, walk.heading = 0.5F * kPi + lean;
     } else if (at < 2.0F * w) {

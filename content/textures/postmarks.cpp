@@ -51,8 +51,8 @@ struct Strike {
 };
 
 constexpr Strike kStrikes[] = {
-    {0.30F, 0.27F, 215.0F, -0.16F, 7, 900.0F, "MARLOW HARBOUR", "SOUTH", "17 SEP", "1931"},
-    {0.84F, 0.70F, 180.0F, 0.34F, 0, 0.0F, "NETHERBY", "STATION", "19 SEP", "6 PM"},
+    {0.335F, 0.52F, 215.0F, -0.13F, 7, 900.0F, "MARLOW HARBOUR", "SOUTH", "17 SEP", "1931"},
+    {0.85F, 0.74F, 180.0F, 0.34F, 0, 0.0F, "NETHERBY", "STATION", "19 SEP", "6 PM"},
     {0.13F, 0.80F, 195.0F, 0.75F, 5, 560.0F, "COLD WINDLE", "RAILWAY", "4 JAN", "1928"},
     {0.60F, 0.86F, 150.0F, -0.42F, 0, 0.0F, "THORNE", "PAID", "21 OCT", "1931"}};
 
@@ -123,8 +123,8 @@ Field Paint(const Sheet& sheet) {
   StrokeSet strong, ghost;
   for (const Strike& strike : kStrikes) AddStrike(strong, sheet, strike, 0.0F, 0.0F);
   AddStrike(ghost, sheet, kStrikes[1], -52.0F, 34.0F);
-  AddBox(strong, 0.64F * w, 0.43F * h, -0.10F, 62.0F, "REGISTERED 4417");
-  AddBox(ghost, 0.40F * w, 0.66F * h, 0.13F, 48.0F, "MISSENT");
+  AddBox(strong, 0.60F * w, 0.20F * h, -0.08F, 62.0F, "REGISTERED 4417");
+  AddBox(ghost, 0.20F * w, 0.15F * h, 0.13F, 48.0F, "MISSENT");
   Field ink(sheet);
   strong.Draw(sheet, ink, {.ragged = 1.6F, .raggedPeriod = 6.0F, .seed = seed + 1});
   Field faint(sheet);

@@ -8,6 +8,7 @@
 #include "builder/texture_recipe.h"
 #include "toolbox/cells.h"
 #include "toolbox/filters.h"
+#include "toolbox/folds.h"
 #include "toolbox/hash.h"
 #include "toolbox/maths.h"
 #include "toolbox/noise.h"
@@ -58,6 +59,8 @@ Field Paint(const Sheet& sheet) {
   const Fbm fibre{4.0F, 3, 0.72F, seed + 5};
   const Fbm dirt{13.0F, 4, 0.66F, seed + 6};
   const Spots specks{22.0F, 0.30F, 0.6F, 3.4F, seed + 7};
+  // The picture was folded once across before it was taped in.
+  const Folds fold({{0.47F * w, 0.5F * h, 1.83F, 0.75F, true}}, seed + 8);
   Field tone = Painted(sheet, [&](Spot p) {
     // The page: clean where the picture lay, toned around it.
     const float rim = Min(Min(p.fx - 88.0F + 0.010F * p.fy, w - 96.0F - p.fx - 0.006F * p.fy),
@@ -67,6 +70,8 @@ Field Paint(const Sheet& sheet) {
         Mix(0.70F + 0.12F * cloud(p) + 0.05F * fibre(p), 0.985F + 0.02F * fibre(p), covered);
     value -= 0.22F * covered * Exp(-Max(0.0F, rim + 14.0F * edge(p)) / 34.0F);
     value -= 0.30F * Exp(-Square(rim / 3.0F)) * Clamp01(0.5F + edge(p));
+    const FoldSpot crease = fold.At(p.fx, p.fy);
+    value *= 1.0F - covered * (0.80F * crease.wear + 0.30F * Max(0.0F, -crease.shade));
     const float speck = SmoothRamp(0.1F, 0.5F, specks(p).depth);
     value *= 1.0F - speck * 0.55F * Clamp01(0.15F + 1.2F * cloud(p) + 0.5F * (1.0F - covered));
     value *= 1.0F - 0.55F * fluff(p) * Clamp01(0.2F + 1.4F * cloud(p));
