@@ -1,6 +1,8 @@
-// Frost_Ferns: a bedroom window on a winter morning. Ferns of ice grew in from
-// the frame, feather upon feather, each up to where it met another; along the
-// frame the pane is white with rime, a place beside the middle breath kept clear.
+// Frost_Ferns: a bedroom window on a winter morning, the snow outside brighter
+// than the room. Ferns of ice grew in from the frame, feather upon feather, each
+// up to where it met another; against the light ice is dark. Along the frame the
+// pane is grey with rime, a place beside the middle breath kept clear, and there
+// it leaves the picture alone.
 //
 // What makes it read as that: stems that curve, feathers at one angle on both
 // sides, borders where two ferns met and neither went on.
@@ -61,6 +63,8 @@ Field Paint(const Sheet& sheet) {
     return value + 0.22F * rim * (1.0F - film) * (drop.dy < -0.1F ? 1.0F : 0.35F);
   });
   StretchTo(sheet, tone, 0.004F, 0.99F);
+  // All above is frost seen from outside; from the room it is the other way round.
+  Repaint(sheet, tone, [&](Spot p) { return 1.06F - 1.06F * tone(p); });
   return tone;
 }
 
