@@ -144,10 +144,10 @@ Field Paint(const Sheet& sheet) {
     const float second = faint(p) * SoftThreshold(weight + bite * 2.0F, 0.62F, 0.40F);
     const float mark = Max(0.97F * struck, 0.55F * second);
     const float smear = 0.18F * soak(p) * Clamp01(weight);
-    return (1.0F - mark) * (1.0F - smear) * (0.985F + 0.02F * tooth(p) + 0.02F * cloud(p));
+    return (1.0F - mark) * (1.0F - smear) * (0.975F + 0.03F * tooth(p) + 0.02F * cloud(p));
   });
   Soften(sheet, tone, 0.35F);
-  StretchTo(sheet, tone, 0.001F, 0.60F);
+  StretchTo(sheet, tone, 0.001F, 0.93F);
   return tone;
 }
 
