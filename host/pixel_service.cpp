@@ -103,7 +103,8 @@ host::OSErr PixelService::Fill(TestHost& host, Buffer& buffer, const VRect& rect
   return host::noErr;
 }
 
-host::OSErr PixelService::FillMask(TestHost& host, const VRect& rect, host::Fixed rate) {
+host::OSErr PixelService::FillMask(TestHost& host, const VRect& rect, host::Fixed rate,
+                                   int padding) {
   const Document& document = host.document;
   const int rowBytes = rect.right - rect.left + host.options.rowPadding;
   mask_.rect = rect;
@@ -115,9 +116,11 @@ host::OSErr PixelService::FillMask(TestHost& host, const VRect& rect, host::Fixe
     for (int x = rect.left; x < rect.right; ++x) {
       const int sx = SourceOf(x, rate);
       const int sy = SourceOf(y, rate);
-      if (sx < 0 || sy < 0 || sx >= document.width || sy >= document.height) return host::paramErr;
+      const bool isInside = sx >= 0 && sy >= 0 && sx < document.width && sy < document.height;
+      if (!isInside && (padding < 0 || padding > 255)) return host::paramErr;
       mask_.bytes[static_cast<std::size_t>((y - rect.top) * rowBytes + x - rect.left)] =
-          document.selection[static_cast<std::size_t>(sy * document.width + sx)];
+          isInside ? document.selection[static_cast<std::size_t>(sy * document.width + sx)]
+                   : static_cast<std::uint8_t>(padding);
     }
   }
   mask_.delivered = mask_.bytes;
@@ -177,7 +180,8 @@ host::OSErr PixelService::Advance(TestHost& host) {
   }
   const Request request = RequestOf(host);
   if (record.haveMask != 0 && !IsEmpty(request.mask)) {
-    const host::OSErr error = FillMask(host, request.mask, UsedRate(host.options, record.maskRate));
+    const host::OSErr error =
+        FillMask(host, request.mask, UsedRate(host.options, record.maskRate), record.maskPadding);
     if (error != host::noErr) return error;
     record.maskData = mask_.bytes.data();
     record.maskRowBytes = mask_.rowBytes;

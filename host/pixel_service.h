@@ -35,7 +35,7 @@ class PixelService {
   void CheckInput(TestHost& host) const;
   static host::OSErr Fill(TestHost& host, Buffer& buffer, const host::VRect& rect, int low,
                           int high, host::Fixed rate, int padding);
-  host::OSErr FillMask(TestHost& host, const host::VRect& rect, host::Fixed rate);
+  host::OSErr FillMask(TestHost& host, const host::VRect& rect, host::Fixed rate, int padding);
 
   Buffer in_, out_, mask_;
 };

@@ -10,7 +10,7 @@ bool ModuleWindows::ShowMainDialog(FilterGlobals&) {
 }
 
 void ModuleWindows::ShowAboutBox(FilterGlobals& g) {
-  // No reference comes with the about selector, so the platform is asked.
+  // Not through the access suite: this much works in every host.
   ShowAboutDialog(static_cast<HINSTANCE>(OwnModuleHandle()), static_cast<HWND>(g.ownerWindow));
 }
 

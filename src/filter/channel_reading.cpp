@@ -1,6 +1,7 @@
 #include "filter/channel_reading.h"
 
 #include <algorithm>
+#include <cstring>
 
 #include "filter/host_rects.h"
 #include "filter/host_suites.h"
@@ -10,20 +11,19 @@ namespace {
 
 using host::VRect;
 
-// A suite's errors are wider than the host's; none may become a 0 on the way.
+// A suite's errors are wider than the host's, which are negative.
 host::OSErr ErrorOf(host::SPErr error) {
   if (error == host::kSPNoError) return host::noErr;
-  const auto narrow = static_cast<host::OSErr>(error);
-  return narrow != host::noErr ? narrow : host::errPlugInHostInsufficient;
+  return error < 0 && error >= INT16_MIN ? static_cast<host::OSErr>(error)
+                                         : host::errPlugInHostInsufficient;
 }
 
 host::OSErr ReadThroughSuite(const ChannelPortsSuite& suite, host::ChannelPort* port, VRect rect,
                              const host::PixelMemoryDesc& to) {
   host::Boolean canRead = 0;
-  if (const host::OSErr error = ErrorOf(suite->CanRead(port, &canRead)); error != host::noErr) {
-    return error;
-  }
+  const host::OSErr error = ErrorOf(suite->CanRead(port, &canRead));
   if (canRead == 0) return host::errPlugInHostInsufficient;
+  if (error != host::noErr) return error;
   return ErrorOf(suite->ReadPixelsFromLevel(port, 0, &rect, &to));
 }
 
@@ -47,11 +47,20 @@ bool ReadChannelChain(FilterGlobals& g, const host::ReadChannelDesc* channels, R
   }
   const Rect filterRect = GetFilterRect(record);
   const host::VPoint origin = GetFloatCoord(record);
-  const VRect rect = {origin.v, origin.h, origin.v + std::min(filterRect.Height(), image.Height()),
-                      origin.h + std::min(filterRect.Width(), image.Width())};
+  const std::int64_t bottom =
+      std::int64_t{origin.v} + std::min(filterRect.Height(), image.Height());
+  const std::int64_t right = std::int64_t{origin.h} + std::min(filterRect.Width(), image.Width());
+  if (bottom > INT32_MAX || right > INT32_MAX) {
+    *g.gResult = host::filterBadParameters;
+    return false;
+  }
+  const VRect rect = {origin.v, origin.h, static_cast<std::int32_t>(bottom),
+                      static_cast<std::int32_t>(right)};
   const ChannelPortsSuite suite(g.gBasicSuite, host::kPSChannelPortsSuite, 2);
   int planesLeft = image.planeCount;
   for (; channels != nullptr && planesLeft > 0; channels = channels->next, --planesLeft) {
+    // A host may read only where the layer has something.
+    std::memset(plane, 0, image.PlaneBytes());
     const host::PixelMemoryDesc to = {plane, image.RowBits(), image.SampleBits(), 0,
                                       image.SampleBits()};
     *g.gResult = suite ? ReadThroughSuite(suite, channels->port, rect, to)

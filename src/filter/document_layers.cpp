@@ -7,6 +7,7 @@
 #include "filter/channel_reading.h"
 #include "filter/document_queries.h"
 #include "filter/host_colors.h"
+#include "filter/host_rects.h"
 #include "imaging/fill.h"
 #include "imaging/layer_merge.h"
 #include "imaging/orientation.h"
@@ -17,7 +18,10 @@ namespace {
 constexpr std::int32_t kByteDepth = 8;
 
 Rect DocumentBounds(const host::FilterRecord& record) {
-  if (record.documentInfo == nullptr) return {0, 0, record.imageSize.v, record.imageSize.h};
+  if (record.documentInfo == nullptr) {
+    const host::VPoint size = GetImageSize(record);
+    return {0, 0, size.v, size.h};
+  }
   const host::VRect& bounds = record.documentInfo->bounds;
   return {bounds.top, bounds.left, bounds.bottom, bounds.right};
 }
@@ -40,7 +44,8 @@ class LayerReader {
         alpha_(MakeGrayImage(bounds_, 0)) {}
 
   bool Read() {
-    bool result = FillBlack();
+    const bool hasMemory = FillBlack();
+    bool result = hasMemory;
     const std::optional<std::string> target = GetTargetLayerName(g_.gBasicSuite);
     const host::ReadLayerDesc* layer = HasLayerInfo(*g_.gFilterRecord)
                                            ? g_.gFilterRecord->documentInfo->layersDescriptor
@@ -51,11 +56,16 @@ class LayerReader {
           result = ReadTarget(*layer);
           break;
         }
-        if (IsLayerVisible(g_.gBasicSuite, *layer)) result = Merge(*layer);
+        // A group or an adjustment has no colours of its own.
+        if (layer->compositeChannelsList != nullptr && IsLayerVisible(g_.gBasicSuite, *layer)) {
+          result = Merge(*layer);
+        }
       }
     }
     const bool isKept = result && merged_->PeekInterior() != nullptr;
     g_.layersBelow = isKept ? merged_ : nullptr;
+    // Readings that went well do not make up for it.
+    if (!hasMemory && *g_.gResult == host::noErr) *g_.gResult = host::memFullErr;
     return result;
   }
 
@@ -68,9 +78,7 @@ class LayerReader {
   // Where nothing lies, the merge stays black.
   [[nodiscard]] bool FillBlack() {
     HostColorServices services(g_.gFilterRecord->colorServices);
-    if (FillImage(*merged_, kBlackFill, &services)) return true;
-    *g_.gResult = host::memFullErr;
-    return false;
+    return FillImage(*merged_, kBlackFill, &services);
   }
 
   [[nodiscard]] bool HasAlphaPlane() const { return planes_ >= 4; }

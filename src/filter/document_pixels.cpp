@@ -13,6 +13,12 @@ namespace {
 
 constexpr int kPixelBytes = 4;
 
+void FreePixels(FilterGlobals& g) {
+  g.selectionPlane.Free();
+  g.documentPixels.Free();
+  g.selectionPlaneRowBytes = g.documentPixelsWidth = g.documentPixelsHeight = 0;
+}
+
 // The colours beside the plane that holds their alpha.
 bool BuildDocumentPixels(FilterGlobals& g, const PictureJob& job) {
   if (!BuildSelectionPlane(job, g.selectionPlane)) return false;
@@ -69,16 +75,16 @@ void FetchDocumentAtZoom(FilterGlobals& g) {
   record.inputRate = record.maskRate = static_cast<host::Fixed>(g.render.viewScale * 65536.0F);
   *g.gResult =
       record.advanceState != nullptr ? record.advanceState() : host::errPlugInHostInsufficient;
-  g.documentPixels.Free();
-  if (*g.gResult != host::noErr) return g.selectionPlane.Free();
+  FreePixels(g);
+  if (*g.gResult != host::noErr) return;
   const PictureJob job = JobOf(record, GetInRect(record));
   if (!IsRenderable(job) || job.in == nullptr) {
     *g.gResult = host::filterBadParameters;
-    return g.selectionPlane.Free();
+    return;
   }
   if (!BuildDocumentPixels(g, job)) {
+    FreePixels(g);
     *g.gResult = host::memFullErr;
-    g.selectionPlane.Free();
   }
 }
 
@@ -94,6 +100,7 @@ void CopyDocumentToPixels(FilterGlobals& g, bool toOutput) {
   std::ptrdiff_t pixelBytes = kPixelBytes;
   if (toOutput) {
     const PictureJob job = JobOf(record, GetOutRect(record));
+    if (!IsRenderable(job)) return;
     to = job.out;
     rowBytes = job.outRowBytes;
     pixelBytes = job.planes;

@@ -8,7 +8,12 @@ namespace tarnwick {
 // Asks the host for the filter's rectangle at the view's scale, and builds
 // g.selectionPlane and g.documentPixels from it: red, green, blue and alpha times
 // selection, four bytes a pixel. The host's outcome is in *gResult; on failure
-// there is no selectionPlane.
+// there are neither.
+//
+// Needs  padding that lets a request reach beyond the picture, if the scale is not
+//        1: the rectangle is that of the whole picture at any scale.
+// Leaves the output open: what is written there becomes the picture with the next
+//        request, so a preview has to put it back.
 void FetchDocumentAtZoom(FilterGlobals& g);
 
 // Samples g.documentCopy by nearest neighbour for the view's window: into

@@ -42,6 +42,11 @@ Rect GetOutRect(const FilterRecord& record) {
   return Get(record, record.outRect, &BigDocumentStruct::outRect32);
 }
 
+host::VPoint GetImageSize(const host::FilterRecord& record) {
+  if (Uses32Bit(record)) return record.bigDocumentData->imageSize32;
+  return {record.imageSize.v, record.imageSize.h};
+}
+
 host::VPoint GetFloatCoord(const FilterRecord& record) {
   if (Uses32Bit(record)) return record.bigDocumentData->floatCoord32;
   return {record.floatCoord.v, record.floatCoord.h};

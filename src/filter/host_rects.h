@@ -10,6 +10,7 @@ namespace tarnwick {
 [[nodiscard]] Rect GetFilterRect(const host::FilterRecord& record);
 [[nodiscard]] Rect GetInRect(const host::FilterRecord& record);
 [[nodiscard]] Rect GetOutRect(const host::FilterRecord& record);
+[[nodiscard]] host::VPoint GetImageSize(const host::FilterRecord& record);
 [[nodiscard]] host::VPoint GetFloatCoord(const host::FilterRecord& record);
 void SetInRect(host::FilterRecord& record, const Rect& rect);
 void SetOutRect(host::FilterRecord& record, const Rect& rect);

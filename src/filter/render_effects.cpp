@@ -63,6 +63,7 @@ void BeginState(FilterGlobals& g, const PictureJob& job, Progress progress) {
   g.selectionPlane.Free();
   if ((state.hasSelection || job.planes > 3) && BuildSelectionPlane(job, g.selectionPlane)) {
     state.selectionPlane = g.selectionPlane.Data();
+    g.selectionPlaneRowBytes = job.width;
   }
 }
 

@@ -28,7 +28,8 @@ struct SavedBlock {
 // Takes the pages out of the table; they belong to the caller then.
 SavedBlock TakeBlock(std::uintptr_t address);
 
-// Frees all pages of the table but those at the addresses that are still in use.
+// Frees all pages of the table but those at the addresses that are still in use. A
+// second copy of the module in the same process shares the table, and loses its own.
 void DropBlocksExcept(const std::array<std::uintptr_t, 3>& inUse);
 
 // The integer that stands for an address.

@@ -11,7 +11,11 @@ const void* AcquireSuite(host::SPBasicSuite* broker, SuiteRecord& record) {
   if (broker != nullptr && HasParts(*broker)) {
     record.lastError = broker->AcquireSuite(record.name, record.version, &found);
   }
-  if (record.lastError != host::kSPNoError || found == nullptr) {
+  if (record.lastError == host::kSPNoError && found == nullptr) {
+    broker->ReleaseSuite(record.name, record.version);
+    record.lastError = host::kSPSuiteNotFoundError;
+  }
+  if (record.lastError != host::kSPNoError) {
     throw HostServiceMissing(host::kSPBadParameterError);
   }
   record.suite = found;
