@@ -1,48 +1,21 @@
 #include "age_picture.h"
 
-#include <algorithm>
 #include <new>
 #include <system_error>
 #include <vector>
 
 #include "cli_error.h"
-#include "data_folders.h"
-#include "did_you_mean.h"
 #include "engine/apply_run.h"
 #include "output_file.h"
 #include "picture.h"
 #include "picture_load.h"
 #include "picture_save.h"
-#include "settings_recipe.h"
-#include "textures/texture_path.h"
+#include "texture_alert_list.h"
 
 namespace tarnwick {
 namespace {
 
 namespace fs = std::filesystem;
-
-class AlertList : public TextureAlerts {
- public:
-  void TextureAlert(const std::string& text) override {
-    if (std::find(texts_.begin(), texts_.end(), text) == texts_.end()) texts_.push_back(text);
-  }
-  [[nodiscard]] const std::vector<std::string>& Texts() const { return texts_; }
-
- private:
-  std::vector<std::string> texts_;
-};
-
-// What may be meant instead of the texture that an alert is about.
-std::string Advice(const std::string& alert, const AgeRun& run) {
-  const std::string otherwise = "see tarnwick textures list";
-  for (const std::string& name : TexturesInUse(run.settings)) {
-    const std::string path = TexturePath(run.textureFolder.string(), name);
-    std::error_code fault;
-    if (alert.find(path) == std::string::npos || fs::exists(path, fault)) continue;
-    return DidYouMean(name, TextureNames(run.textureFolder), otherwise);
-  }
-  return otherwise;
-}
 
 PreviewWindow WindowOf(const AgeOptions& options, const Picture& picture) {
   PreviewWindow window = WholeWindow(picture.Width(), picture.Height(), options.scale);
@@ -84,20 +57,6 @@ ApplyOutcome Render(const AgeRun& run, Picture& picture, PictureJob& job) {
   return outcome;
 }
 
-void RequireDone(ApplyOutcome outcome, const fs::path& input) {
-  switch (outcome) {
-    case ApplyOutcome::kDone:
-      return;
-    case ApplyOutcome::kOutOfMemory:
-      throw std::bad_alloc();
-    case ApplyOutcome::kBadPicture:
-    case ApplyOutcome::kUnsupportedMode:
-    case ApplyOutcome::kNoConverter:
-      break;
-  }
-  FailInput(input.string(), "cannot be aged", "convert it to an 8-bit RGB picture first");
-}
-
 void Warn(const AgeRun& run, const fs::path& input, const PictureNotes& notes) {
   for (const std::string& note : notes) run.console.Warning(input.string() + ": " + note);
 }
@@ -105,14 +64,17 @@ void Warn(const AgeRun& run, const fs::path& input, const PictureNotes& notes) {
 // With --strict the last one is thrown, and so all are told.
 void TellAlerts(const AgeRun& run, const fs::path& input, const AlertList& alerts) {
   const std::vector<std::string>& texts = alerts.Texts();
+  const auto advice = [&](const std::string& text) {
+    return AlertAdvice(text, run.textureFolder, run.settings);
+  };
   for (const std::string& text : texts) {
-    const std::string line = input.string() + ": " + text + " (" + Advice(text, run) + ")";
+    const std::string line = input.string() + ": " + text + " (" + advice(text) + ")";
     if (!run.options.strict) {
       run.console.Warning(line);
     } else if (&text != &texts.back()) {
       run.console.Error(line);
     } else {
-      FailInput(input.string(), text, Advice(text, run));
+      FailInput(input.string(), text, advice(text));
     }
   }
 }

@@ -14,9 +14,10 @@
 namespace tarnwick {
 namespace {
 
-constexpr std::array<Command, 6> kCommands = {{
+constexpr std::array<Command, 7> kCommands = {{
     {"age", "age photographs", RunAge},
     {"auto", "age a photograph with a look that dice throw", RunAuto},
+    {"gallery", "show a photograph in every look of the library, as a web page", RunGallery},
     {"presets", "list, show and check presets", RunPresets},
     {"textures", "list textures and tell what is in one", RunTextures},
     {"texture", "make a texture from a picture, or a picture from a texture", RunTexture},

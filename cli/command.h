@@ -18,6 +18,7 @@ struct Command {
 
 ExitCode RunAge(Console& console, std::span<const std::string> arguments);
 ExitCode RunAuto(Console& console, std::span<const std::string> arguments);
+ExitCode RunGallery(Console& console, std::span<const std::string> arguments);
 ExitCode RunPresets(Console& console, std::span<const std::string> arguments);
 ExitCode RunTextures(Console& console, std::span<const std::string> arguments);
 ExitCode RunTexture(Console& console, std::span<const std::string> arguments);
