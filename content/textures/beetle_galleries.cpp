@@ -5,6 +5,8 @@
 //
 // What makes it read as that: a straight spine, ribs that start thin and end
 // thick, none crossing another, all cut into smooth grey wood with dust in it.
+#include <vector>
+
 #include "builder/texture_recipe.h"
 #include "toolbox/cells.h"
 #include "toolbox/filters.h"
@@ -58,7 +60,7 @@ void AddBrood(StrokeSet& strokes, Eaten& eaten, float x, float y, float length, 
       const int way = spineWay + ++rib;
       // From the middle straight aside, from the ends bent away along the trunk.
       const float share = 2.0F * along / length - 1.0F;
-      float to = lean - side * (0.25F * kTau - 0.75F * share * side * side);
+      float to = lean - side * (0.25F * kTau - 0.75F * share);
       const float turn = -side * share * 0.0035F;
       const float far = length * dice.Between(0.30F, 0.62F) * (1.0F - 0.35F * Abs(share));
       float wx = x + 12.0F * Cos(to);
@@ -134,8 +136,8 @@ Field Paint(const Sheet& sheet) {
     const float shred = SoftThreshold(bast(p.fx * 1.4F, p.fy * 0.45F), 0.40F, 0.05F);
     float value = 0.74F + 0.16F * grain(p).tone + 0.14F * cloud(p) + 0.02F * dust(p);
     value = Mix(value, 0.50F + 0.14F * grain(p).tone + 0.06F * dust(p), 0.75F * shred);
-    const float floor0 = 0.38F + 0.10F * cloud(p) + 0.10F * dust(p) + 0.05F * grain(p).tone;
-    value = Mix(value, floor0, SmoothRamp(0.05F, 0.6F, way(p)));
+    const float bottom = 0.38F + 0.10F * cloud(p) + 0.10F * dust(p) + 0.05F * grain(p).tone;
+    value = Mix(value, bottom, SmoothRamp(0.05F, 0.6F, way(p)));
     value *= 1.0F - 0.80F * grain(p).split;
     return value + 0.34F * light(p);
   });

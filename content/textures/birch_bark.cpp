@@ -4,6 +4,8 @@
 //
 // What makes it read as that: nearly all of it pale, all of it drawn sideways,
 // dashes of every length with pointed ends, and few scars but black ones.
+#include <vector>
+
 #include "builder/texture_recipe.h"
 #include "toolbox/filters.h"
 #include "toolbox/hash.h"

@@ -83,16 +83,16 @@ Field Paint(const Sheet& sheet) {
   const Fbm years{26.0F, 3, 0.55F, seed + 10};
   const Fbm fibre{3.0F, 2, 0.7F, seed + 11};
   const Fbm curl{70.0F, 3, 0.5F, seed + 12};
-  struct Wood0 {
+  struct Timber {
     float own, grain, glue;
   };
-  const Survey<Wood0> wood(sheet, [&](Spot p) {
+  const Survey<Timber> wood(sheet, [&](Spot p) {
     const Stave at = StaveAt(p.fx, p.fy, seed);
     const float x = p.fx + 5000.0F * Unit(Hash(at.hash + 1));
     const float y = at.v + 900.0F * Unit(Hash(at.hash + 2)) + 9.0F * curl(x * 0.25F, at.v);
     const float grain = 0.7F * years(x * 0.035F, y) + 0.4F * fibre(x * 0.035F, y) +
                         0.25F * curl(x * 1.5F, y * 0.5F) * Unit(Hash(at.hash + 3));
-    return Wood0{Unit(Hash(at.hash + 4)), grain, SmoothRamp(1.9F, 0.5F, at.toGlue)};
+    return Timber{Unit(Hash(at.hash + 4)), grain, SmoothRamp(1.9F, 0.5F, at.toGlue)};
   });
   const Fbm stain{230.0F, 6, 0.58F, seed + 20};
   const Fbm grit{3.0F, 2, 0.7F, seed + 21};
@@ -101,7 +101,7 @@ Field Paint(const Sheet& sheet) {
   });
   const Field light = Relief(sheet, relief, 0.30F);
   Field tone = Painted(sheet, [&](Spot p) {
-    const Wood0& at = wood(p);
+    const Timber& at = wood(p);
     float value = 0.80F + 0.13F * (at.own - 0.5F) + 0.13F * at.grain + 0.10F * stain(p);
     value -= 0.22F * at.glue;
     // Where knives worked, fibres broke: duller, and stained.

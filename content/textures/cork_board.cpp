@@ -5,6 +5,8 @@
 //
 // What makes it read as that: crumbs of all sizes with dark seams, oblong
 // places that stayed dark and have sharp borders, holes at their corners.
+#include <vector>
+
 #include "builder/texture_recipe.h"
 #include "toolbox/cells.h"
 #include "toolbox/filters.h"

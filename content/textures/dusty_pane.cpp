@@ -5,6 +5,8 @@
 //
 // What makes it read as that: small rings by the thousand, pale inside, lanes
 // with dark banks, a wiped arc with streaks, dust thick in the corners.
+#include <vector>
+
 #include "builder/texture_recipe.h"
 #include "toolbox/cells.h"
 #include "toolbox/filters.h"

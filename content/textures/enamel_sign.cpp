@@ -5,6 +5,8 @@
 //
 // What makes it read as that: chips that are sharp, round and ringed, few and
 // black in a field of white, with a stain that respects gravity.
+#include <vector>
+
 #include "builder/texture_recipe.h"
 #include "toolbox/filters.h"
 #include "toolbox/hash.h"

@@ -6,6 +6,8 @@
 // What makes it read as that: rings of fat and lean years about a middle that
 // is not the picture's, wedges that are black and straight along the rays, and
 // the saw's marks, which care for neither.
+#include <vector>
+
 #include "builder/texture_recipe.h"
 #include "toolbox/filters.h"
 #include "toolbox/hash.h"

@@ -4,6 +4,8 @@
 //
 // What makes it read as that: every drop shows the view upside down, dark above
 // and bright below, with a fine dark rim; paths that are empty of small drops.
+#include <vector>
+
 #include "builder/texture_recipe.h"
 #include "toolbox/cells.h"
 #include "toolbox/filters.h"
@@ -84,11 +86,11 @@ Field Paint(const Sheet& sheet) {
     };
     const float many = shower(p);
     const Spots::Hit fine = mist(q);
-    float water0 = Unit(fine.hash) < 0.55F + 1.2F * many ? dome(fine) : 0.0F;
+    float wet = Unit(fine.hash) < 0.55F + 1.2F * many ? dome(fine) : 0.0F;
     const Spots::Hit mid = small(q);
-    if (Unit(mid.hash) < 0.62F + 1.1F * many) water0 = Max(water0, dome(mid));
-    water0 *= 1.0F - Min(1.0F, 1.3F * swept(p));
-    return Max(Max(water0, dome(large(q)) * (1.0F - swept(p))), 10.0F * water(p));
+    if (Unit(mid.hash) < 0.62F + 1.1F * many) wet = Max(wet, dome(mid));
+    wet *= 1.0F - Min(1.0F, 1.3F * swept(p));
+    return Max(Max(wet, dome(large(q)) * (1.0F - swept(p))), 10.0F * water(p));
   });
   Soften(sheet, depth, 0.4F);
   const Fbm world{520.0F, 4, 0.5F, seed + 20};
