@@ -66,7 +66,6 @@ std::string DataText(const GalleryPage& page, std::span<const GalleryLook> looks
   json.BeginObject();
   json.Key("width").Number(std::int64_t{page.largeWidth});
   json.Key("height").Number(std::int64_t{page.largeHeight});
-  json.Key("original").String(LargePicture(kOriginalId));
   json.Key("looks").BeginArray();
   for (const GalleryLook& look : looks) WriteLook(json, page, look);
   json.EndArray();

@@ -154,8 +154,9 @@
 
   // The look that the address names: a link can be kept, and "back" on a phone
   // closes the viewer.
-  const lookOfAddress = () => lookOf.get(decodeURIComponent(location.hash.slice(2))) ?? null;
-  const addressOf = (look) => "#/" + encodeURIComponent(look.id);
+  const addressOf = (look) => "#/" + look.id;
+  const lookOfAddress = () =>
+    location.hash.startsWith("#/") ? lookOf.get(location.hash.slice(2)) ?? null : null;
 
   function showFacts(look) {
     const facts = byId("viewer-facts");
@@ -190,7 +191,6 @@
     after.removeAttribute("src");
     after.src = look.large;
     after.alt = "The photograph with the look " + look.name;
-    if (!byId("before").getAttribute("src")) byId("before").src = gallery.original;
     byId("viewer-name").textContent = look.name;
     byId("viewer-kind").textContent = look.kindTitle + (look.folder ? " · " + look.folder : "");
     showFacts(look);
