@@ -9,6 +9,10 @@
 namespace tarnwick {
 namespace {
 
+// Of a 24-megapixel photograph this holds twenty textures: those that presets
+// share, and the ones of the present look for its second picture.
+constexpr std::size_t kCacheBytes = std::size_t{512} << 20;
+
 // As PictureLike, but for all that is not colour.
 Picture BarePicture(const Picture& from, int width, int height) {
   Picture bare;
@@ -32,10 +36,10 @@ int ScaleFor(int width, int height, int wanted) {
 
 GalleryPictures::GalleryPictures(const Picture& photo, std::filesystem::path textureFolder,
                                  ThreadPool& pool)
-    : photo_(photo), textureFolder_(std::move(textureFolder)), pool_(pool) {}
+    : photo_(photo), textureFolder_(std::move(textureFolder)), pool_(pool), cache_(kCacheBytes) {}
 
 Picture GalleryPictures::Render(const ComposedSettings& look, int scale, ViewMode view,
-                                AlertList& alerts, const std::filesystem::path& photoPath) const {
+                                AlertList& alerts, const std::filesystem::path& photoPath) {
   PreviewWindow window = WholeWindow(photo_.Width(), photo_.Height(), scale);
   window.view = view;
   Picture shown = BarePicture(photo_, window.width, window.height);
@@ -49,6 +53,7 @@ Picture GalleryPictures::Render(const ComposedSettings& look, int scale, ViewMod
   job.outRowBytes = shown.RowBytes();
   job.textureFolder = textureFolder_.string();
   job.alerts = &alerts;
+  job.textureCache = &cache_;
   job.pool = &pool_;
   EffectSettings settings = look.settings;
   SettingsSession session = look.session;

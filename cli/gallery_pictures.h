@@ -6,6 +6,7 @@
 #include "picture.h"
 #include "settings_recipe.h"
 #include "texture_alert_list.h"
+#include "textures/texture_cache.h"
 
 namespace tarnwick {
 
@@ -26,12 +27,13 @@ class GalleryPictures {
   //
   // Errors  CliError (input failed) naming `photoPath`; std::bad_alloc.
   [[nodiscard]] Picture Render(const ComposedSettings& look, int scale, ViewMode view,
-                               AlertList& alerts, const std::filesystem::path& photoPath) const;
+                               AlertList& alerts, const std::filesystem::path& photoPath);
 
  private:
   const Picture& photo_;
   std::filesystem::path textureFolder_;
   ThreadPool& pool_;
+  TextureCache cache_;
 };
 
 }  // namespace tarnwick

@@ -51,6 +51,7 @@ void Begin(RunData& run, const PictureJob& job, int renderWidth, int renderHeigh
   state.selectionRowBytes = job.selectionRowBytes;
   state.textureFolder = job.textureFolder;
   state.alerts = job.alerts;
+  state.textureCache = job.textureCache;
   state.progress.sink = job.progress;
   state.pool = job.pool;
   if (state.hasSelection || job.planes > 3) {

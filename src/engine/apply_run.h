@@ -11,6 +11,8 @@
 
 namespace tarnwick {
 
+class TextureCache;
+
 // How the samples of a picture are to be read; the values are the host's.
 enum class ImageMode : std::int16_t { kRgb = 3, kCmyk = 4, kRgb48 = 11, kCmyk64 = 13 };
 
@@ -46,6 +48,7 @@ struct PictureJob {
   RowColorConverter* converter = nullptr;  // for CMYK only
   std::string textureFolder;               // without a separator at its end
   TextureAlerts* alerts = nullptr;         // may be null: silent
+  TextureCache* textureCache = nullptr;    // may be null; for several runs on one picture
   ProgressSink* progress = nullptr;        // may be null
   ThreadPool* pool = nullptr;              // may be null: one thread
 };

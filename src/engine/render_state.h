@@ -13,6 +13,8 @@
 
 namespace tarnwick {
 
+class TextureCache;
+
 // What a run hands over beside the picture itself.
 enum class LayerOutputMode : std::int32_t { kNormal = 0, kSurfaceAlone = 1, kSurfaceLeftOut = 2 };
 
@@ -62,6 +64,7 @@ struct RenderState {
   bool showTextureAlerts = true;
   std::string textureFolder;
   TextureAlerts* alerts = nullptr;         // may be null
+  TextureCache* textureCache = nullptr;    // may be null: read anew each time
   ColorServices* colorServices = nullptr;  // may be null
   Progress progress;
   ThreadPool* pool = nullptr;  // may be null

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <memory>
 #include <utility>
 
 #include "engine/texture_offset.h"
@@ -9,6 +10,7 @@
 #include "imaging/fill.h"
 #include "imaging/orientation.h"
 #include "imaging/resample.h"
+#include "textures/texture_cache.h"
 #include "textures/wash_file.h"
 
 namespace tarnwick {
@@ -42,8 +44,9 @@ void SetMissingSize(EffectLayer& layer) {
   layer.textureHeight = kMissingSize;
 }
 
-// The file's samples, or the white stand-in; null without memory.
-ImagePtr ReadOrStandIn(EffectLayer& layer, const RenderState& state) {
+// The file's samples, or the white stand-in; null without memory. `isWhole` tells
+// the one from the other.
+ImagePtr ReadOrStandIn(EffectLayer& layer, const RenderState& state, bool& isWhole) {
   AWashFile file(state.alerts == nullptr
                      ? AWashFile::Complain{}
                      : [&state](const std::string& text) { state.alerts->TextureFault(text); });
@@ -59,13 +62,70 @@ ImagePtr ReadOrStandIn(EffectLayer& layer, const RenderState& state) {
   ImagePtr image;
   const bool whole = file.ReadImage(image);
   const bool empty = layer.textureWidth == 0 || layer.textureHeight == 0;
-  if (whole && !empty && image != nullptr) return FirstPlane(std::move(image));
+  isWhole = whole && !empty && image != nullptr;
+  if (isWhole) return FirstPlane(std::move(image));
   Alert(state, "The file ", layer.fileName, " cannot to be rasterized");
   // Nothing can be scaled from a picture without a size.
   if (empty) SetMissingSize(layer);
   // Width and height change places here, and looks depend on it: the stand-in
   // of a damaged wide texture leaves a part of the picture alone.
   return WhiteImage(state, {0, 0, layer.textureWidth, layer.textureHeight});
+}
+
+ImagePtr CopyOf(const RasterImage& image) {
+  auto copy = std::make_shared<RasterImage>(image.colorMode, image.bounds, image.planeCount,
+                                            image.sampleBits, image.margin, image.allocHint);
+  return CopyPixels(*copy, image) ? copy : nullptr;
+}
+
+// Reads and scales; false when not even the stand-in could be made.
+bool ReadScaled(EffectLayer& layer, const RenderState& state, bool& isWhole) {
+  layer.texture = ReadOrStandIn(layer, state, isWhole);
+  if (layer.texture == nullptr) return false;
+  layer.effectiveScale =
+      EffectiveScale(state.documentWidth, state.documentHeight, layer.textureWidth,
+                     layer.textureHeight, layer.scaleSetting);
+  ImagePtr scaled;
+  if (ResampleImage(scaled, layer.texture.get(), layer.effectiveScale, 1, state.pool, state.isa)) {
+    layer.texture = std::move(scaled);
+  } else {
+    isWhole = false;  // Not as it should be, for want of memory.
+  }
+  return true;
+}
+
+// Inverting and flipping happen in place, and so does the final render's
+// smoothing; a turn makes an image of its own.
+bool LeavesTextureAlone(const EffectLayer& layer, const RenderState& state) {
+  return state.previewMode && layer.invert == 0 && layer.flipVertical == 0 &&
+         layer.flipHorizontal == 0;
+}
+
+// ReadScaled by way of the cache. Stand-ins are not kept: each use alerts.
+bool TakeScaled(EffectLayer& layer, const RenderState& state) {
+  bool isWhole = false;
+  if (state.textureCache == nullptr) return ReadScaled(layer, state, isWhole);
+  const TextureCache::Key key{layer.fileName, state.documentWidth, state.documentHeight,
+                              layer.scaleSetting};
+  const TextureCache::Entry* kept = state.textureCache->Find(key);
+  if (kept == nullptr) {
+    if (!ReadScaled(layer, state, isWhole)) return false;
+    if (!isWhole) return true;
+    state.textureCache->Keep(key, {layer.texture, layer.textureWidth, layer.textureHeight});
+  } else {
+    layer.texture = kept->image;
+    layer.textureWidth = kept->fileWidth;
+    layer.textureHeight = kept->fileHeight;
+    layer.effectiveScale =
+        EffectiveScale(state.documentWidth, state.documentHeight, layer.textureWidth,
+                       layer.textureHeight, layer.scaleSetting);
+  }
+  if (LeavesTextureAlone(layer, state)) return true;
+  if (ImagePtr own = CopyOf(*layer.texture)) {
+    layer.texture = std::move(own);
+    return true;
+  }
+  return ReadScaled(layer, state, isWhole);
 }
 
 }  // namespace
@@ -103,16 +163,9 @@ void OrientTexture(EffectLayer& layer, ThreadPool* pool) {
 
 bool LoadTexture(EffectLayer& layer, RenderState& state, const std::string& path) {
   layer.fileName = path;
-  layer.texture = ReadOrStandIn(layer, state);
+  layer.texture = nullptr;
   layer.working = nullptr;
-  if (layer.texture == nullptr) return false;
-  layer.effectiveScale =
-      EffectiveScale(state.documentWidth, state.documentHeight, layer.textureWidth,
-                     layer.textureHeight, layer.scaleSetting);
-  ImagePtr scaled;
-  if (ResampleImage(scaled, layer.texture.get(), layer.effectiveScale, 1, state.pool, state.isa)) {
-    layer.texture = std::move(scaled);
-  }
+  if (!TakeScaled(layer, state)) return false;
   MoveOffset(layer, state, 0, 0);
   OrientTexture(layer, state.pool);
   layer.textureDirty = true;

@@ -16,7 +16,8 @@ namespace tarnwick {
 // limited to it; then prepares `working`.
 //
 // A file that is missing, damaged or too large is replaced by plain white, and
-// `state.alerts` is told if state.showTextureAlerts is on.
+// `state.alerts` is told if state.showTextureAlerts is on. With a
+// `state.textureCache` a texture is read and scaled once for all renders.
 // False only when not even the white image could be made; `texture` is then null.
 [[nodiscard]] bool LoadTexture(EffectLayer& layer, RenderState& state, const std::string& path);
 
