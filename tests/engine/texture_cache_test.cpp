@@ -52,9 +52,14 @@ TEST(TextureCache, ChangesNoPicture) {
   job.inRowBytes = kWidth * 3;
   job.textureFolder = GoldenFolder() + "textures";
   // Room for a few of them only.
-  TextureCache cache(5 * kWidth * kHeight * 4);
+  TextureCache cache(10 * kWidth * kHeight * 4);
   for (int round = 0; round < 300; ++round) {
-    const EffectSettings drawn = RandomSettings(random);
+    EffectSettings drawn = RandomSettings(random);
+    // Few sizes, so that looks meet in the cache.
+    for (auto* scale : {&drawn.WashScale1, &drawn.WashScale2, &drawn.SurfaceScale1,
+                        &drawn.SurfaceScale2, &drawn.BackgroundScale}) {
+      *scale = *scale < 100 ? 0 : 200;
+    }
     const bool isFinal = random.Below(4) == 0;
     const PreviewWindow window = WholeWindow(kWidth, kHeight, isFinal ? 1 : 1 + round % 4);
     Bytes pictures[2];
