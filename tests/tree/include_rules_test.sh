@@ -29,8 +29,9 @@ may host_interface host_interface/
 may environment base/ settings/ presets/ environment/
 may filter base/ settings/ imaging/ textures/ engine/ presets/ host_interface/ environment/ filter/
 
+may controls environment/ controls/
 may dialog base/ settings/ imaging/ textures/ engine/ presets/ host_interface/ environment/ filter/ \
-  resources/ dialog/
+  resources/ controls/ dialog/
 
 # nowhere WHAT PATTERN PLACE...: the pattern stands in no source but in those
 # whose path fits EXCEPT.

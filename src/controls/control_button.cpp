@@ -1,0 +1,123 @@
+#include "controls/control_button.h"
+
+#include <initializer_list>
+
+#include "controls/back_buffer.h"
+#include "controls/control_classes.h"
+#include "controls/control_window.h"
+#include "controls/models/pointer_tracking.h"
+
+namespace tarnwick {
+namespace {
+
+template <typename Event>
+void Track(ControlButton& record, const Event& event) {
+  ButtonTracking tracking{record.state, record.toggle != 0, record.latched != 0};
+  const TrackingStep step = event(tracking);
+  record.state = tracking.state;
+  record.latched = tracking.latched ? 1 : 0;
+  if (step.release) ReleaseCapture();
+  if (step.capture) SetCapture(record.window);
+  if (step.notify) PostControlCommand(record);
+  if (step.redraw) RedrawControl(record.window);
+}
+
+void Paint(const ControlButton& record) {
+  const BackBuffer buffer(record.window);
+  if (buffer.Dc() == nullptr) return;
+  DrawBitmap(buffer.Dc(), ShownBitmap(record), 0, 0, record.width, record.height, 0, 0);
+}
+
+LRESULT HandleButton(ControlButton& record, UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_MOUSEMOVE: {
+      const PointerPlace p = PointerOf(lParam);
+      if (record.enabled == 0) break;
+      Track(record, [&](ButtonTracking& t) {
+        return t.Move(IsInside(p.x, p.y, record.width, record.height), (wParam & MK_LBUTTON) != 0);
+      });
+      return 0;
+    }
+    case WM_LBUTTONDOWN:
+      if (record.enabled == 0) break;
+      SetFocus(record.window);
+      Track(record, [](ButtonTracking& t) { return t.Press(); });
+      return 0;
+    case WM_LBUTTONUP:
+      if (record.enabled == 0) break;
+      Track(record, [](ButtonTracking& t) { return t.Release(); });
+      return 0;
+    case WM_SIZE:
+      record.width = LOWORD(lParam);
+      record.height = HIWORD(lParam);
+      break;
+    case WM_ENABLE:
+      record.enabled = wParam != 0 ? 1 : 0;
+      if (record.enabled == 0) record.state = kIdle;
+      RedrawControl(record.window);
+      return 0;
+    case WM_ERASEBKGND:
+      return 1;
+    case WM_PAINT:
+      Paint(record);
+      return 0;
+    default:
+      break;
+  }
+  return DefWindowProcA(record.window, message, wParam, lParam);
+}
+
+void LoadInto(const ControlButton& record, HBITMAP& slot, int id) {
+  if (id == 0) return;
+  const auto instance =
+      reinterpret_cast<HINSTANCE>(GetWindowLongPtrA(record.window, GWLP_HINSTANCE));
+  const HBITMAP loaded = LoadBitmapA(instance, MAKEINTRESOURCEA(id));
+  if (slot != nullptr) DeleteObject(slot);
+  slot = loaded;
+}
+
+}  // namespace
+
+ControlButton::~ControlButton() {
+  for (const HBITMAP bitmap : {normalBitmap, hoverBitmap, pressedBitmap, disabledBitmap}) {
+    if (bitmap != nullptr) DeleteObject(bitmap);
+  }
+}
+
+LRESULT CALLBACK ControlButtonProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  return ControlProc<ControlButton, HandleButton>(window, message, wParam, lParam);
+}
+
+ControlButton* CreateButtonControl(HWND parent, HINSTANCE instance, int x, int y, int width,
+                                   int height, int id) {
+  const HWND window = CreateWindowExA(
+      0, kButtonClass, "", WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | WS_CLIPCHILDREN, x, y, width,
+      height, parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), instance, nullptr);
+  return GetControlRecord<ControlButton>(window, kButtonClass);
+}
+
+void SetButtonBitmaps(ControlButton& record, int normalId, int hoverId, int pressedId,
+                      int disabledId) {
+  LoadInto(record, record.normalBitmap, normalId);
+  LoadInto(record, record.hoverBitmap, hoverId);
+  LoadInto(record, record.pressedBitmap, pressedId);
+  LoadInto(record, record.disabledBitmap, disabledId);
+}
+
+HBITMAP ShownBitmap(const ControlButton& record) {
+  // A mode of the animation variants.
+  constexpr std::uint8_t kAlternateMode = 2;
+  if (record.enabled == 0 && record.disabledBitmap != nullptr) return record.disabledBitmap;
+  if (record.toggle == 1 && record.latched == 1) return record.pressedBitmap;
+  switch (record.state) {
+    case kHovered:
+      return record.mode == kAlternateMode && record.hoverAlternate != 0 ? record.disabledBitmap
+                                                                         : record.hoverBitmap;
+    case kPressed:
+      return record.pressedBitmap;
+    default:
+      return record.normalBitmap;
+  }
+}
+
+}  // namespace tarnwick

@@ -1,0 +1,102 @@
+#include "controls/image_button.h"
+
+#include "controls/control_window.h"
+#include "controls/models/pointer_tracking.h"
+
+namespace tarnwick {
+namespace {
+
+bool IsChecked(HWND button) {
+  return SendMessageA(button, BM_GETCHECK, 0, 0) == BST_CHECKED;
+}
+
+void Show(HWND button, HBITMAP bitmap) {
+  SendMessageA(button, BM_SETIMAGE, IMAGE_BITMAP, reinterpret_cast<LPARAM>(bitmap));
+}
+
+bool HoldsPointer(HWND button, LPARAM lParam) {
+  RECT client{};
+  GetClientRect(button, &client);
+  const PointerPlace p = PointerOf(lParam);
+  return IsInside(p.x, p.y, client.right, client.bottom);
+}
+
+void OnMove(ImageButtonState& state, HWND button, LPARAM lParam) {
+  if (HoldsPointer(button, lParam)) {
+    if (state.inside != 0) return;
+    SetCapture(button);
+    state.inside = 1;
+    Show(button, ImageOf(state, true, IsChecked(button), true));
+    return;
+  }
+  ReleaseCapture();
+  state.inside = 0;
+  Show(button, ImageOf(state, true, IsChecked(button), false));
+}
+
+LRESULT CALLBACK ImageButtonProc(HWND button, UINT message, WPARAM wParam, LPARAM lParam) {
+  auto* const state = reinterpret_cast<ImageButtonState*>(GetWindowLongPtrA(button, GWLP_USERDATA));
+  if (state == nullptr) return DefWindowProcA(button, message, wParam, lParam);
+  switch (message) {
+    case WM_MOUSEMOVE:
+      OnMove(*state, button, lParam);
+      break;
+    case WM_LBUTTONUP:
+      state->inside = 0;
+      break;
+    case WM_ENABLE:
+      if (state->disabledBitmap != nullptr) {
+        Show(button, ImageOf(*state, wParam != 0, IsChecked(button), false));
+      }
+      break;
+    case BM_SETCHECK:
+      if (state->checkedBitmap == nullptr) break;
+      if (IsWindowEnabled(button) != FALSE) {
+        Show(button, ImageOf(*state, true, wParam == BST_CHECKED, false));
+      } else {
+        // The check state as it stood before: the system's procedure comes last.
+        Show(button, ImageOf(*state, false, IsChecked(button), false));
+      }
+      break;
+    default:
+      break;
+  }
+  return CallWindowProcA(state->previousProc, button, message, wParam, lParam);
+}
+
+}  // namespace
+
+HBITMAP ImageOf(const ImageButtonState& state, bool isEnabled, bool isChecked, bool isHot) {
+  const bool hasChecked = isChecked && state.checkedBitmap != nullptr;
+  if (!isEnabled) {
+    if (hasChecked && state.checkedDisabledBitmap != nullptr) return state.checkedDisabledBitmap;
+    if (state.disabledBitmap != nullptr) return state.disabledBitmap;
+  }
+  if (isHot) {
+    return hasChecked && state.checkedHotBitmap != nullptr ? state.checkedHotBitmap
+                                                           : state.hotBitmap;
+  }
+  return hasChecked ? state.checkedBitmap : state.normalBitmap;
+}
+
+void SkinStockButton(ImageButtonState& state, HWND button, HBITMAP normalBitmap, HBITMAP hotBitmap,
+                     HBITMAP disabledBitmap, HBITMAP checkedBitmap, HBITMAP checkedHotBitmap,
+                     HBITMAP checkedDisabledBitmap) {
+  if (button == nullptr) return;
+  state = {0,
+           hotBitmap,
+           normalBitmap,
+           disabledBitmap,
+           checkedBitmap,
+           checkedHotBitmap,
+           checkedDisabledBitmap,
+           state.previousProc};
+  Show(button, ImageOf(state, IsWindowEnabled(button) != FALSE, IsChecked(button), false));
+  const auto present = reinterpret_cast<WNDPROC>(GetWindowLongPtrA(button, GWLP_WNDPROC));
+  SetWindowLongPtrA(button, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(&state));
+  if (present == ImageButtonProc) return;
+  state.previousProc = present;
+  SetWindowLongPtrA(button, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(ImageButtonProc));
+}
+
+}  // namespace tarnwick

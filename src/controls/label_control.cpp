@@ -1,0 +1,136 @@
+#include "controls/label_control.h"
+
+#include "controls/back_buffer.h"
+#include "controls/control_classes.h"
+#include "controls/control_shared.h"
+#include "controls/control_window.h"
+#include "controls/models/pointer_tracking.h"
+
+namespace tarnwick {
+namespace {
+
+struct CaptionLook {
+  HFONT font;
+  COLORREF color;
+};
+
+CaptionLook LinkLook(const TContaner& record) {
+  const ControlFonts& fonts = SharedControls().fonts;
+  if (record.enabled == 0) return {fonts.FontLinkBold, RGB(0, 0, 0)};
+  return {fonts.FontLinkUnderlined, RGB(0, 0, 255)};
+}
+
+CaptionLook TrackingLook(const TContaner& record) {
+  const ControlFonts& fonts = SharedControls().fonts;
+  if (IsWindowEnabled(record.window) == FALSE) {
+    return {fonts.FontCaptionHover, record.colorDisabled};
+  }
+  if (record.enabled == 0) {
+    return {record.font != nullptr ? record.font : fonts.FontCaptionActive, record.colorActive};
+  }
+  const COLORREF color = record.state == kPressed   ? record.colorActive
+                         : record.state == kHovered ? record.colorHover
+                                                    : record.colorNormal;
+  return {fonts.FontCaptionHover, color};
+}
+
+void Paint(TContaner& record) {
+  const BackBuffer buffer(record.window);
+  if (buffer.Dc() == nullptr) return;
+  const bool isTracking = record.style == kTrackingLabel;
+  if (!isTracking) {
+    FillRect(buffer.Dc(), &buffer.Client(), SharedControls().faceBrush);
+  } else if (record.backBitmap != nullptr) {
+    DrawBitmap(buffer.Dc(), record.backBitmap, 0, 0, record.width, record.height, record.bitmapX,
+               record.bitmapY);
+  } else {
+    FillRect(buffer.Dc(), &buffer.Client(), record.backBrush);
+  }
+  const CaptionLook look = isTracking ? TrackingLook(record) : LinkLook(record);
+  if (isTracking && IsWindowEnabled(record.window) == FALSE) record.enabled = 0;
+  const Selected font(buffer.Dc(), look.font);
+  SetTextColor(buffer.Dc(), look.color);
+  SetBkMode(buffer.Dc(), TRANSPARENT);
+  RECT client = buffer.Client();
+  const UINT align = record.leftAligned != 0 ? DT_LEFT : DT_CENTER;
+  DrawTextA(buffer.Dc(), record.text.c_str(), -1, &client,
+            align | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX);
+}
+
+template <typename Event>
+void Track(TContaner& record, const Event& event) {
+  LabelTracking tracking{record.state};
+  const TrackingStep step = event(tracking);
+  record.state = tracking.state;
+  if (step.release) ReleaseCapture();
+  if (step.capture) SetCapture(record.window);
+  if (step.redraw) RedrawControl(record.window);
+  if (step.notify) PostControlCommand(record);
+}
+
+LRESULT HandleLabel(TContaner& record, UINT message, WPARAM wParam, LPARAM lParam) {
+  switch (message) {
+    case WM_SETCURSOR:
+      if (record.enabled == 0) break;
+      SetCursor(SharedControls().hand);
+      return TRUE;
+    case WM_MOUSEMOVE: {
+      if (record.style != kTrackingLabel || record.enabled == 0) break;
+      const PointerPlace p = PointerOf(lParam);
+      Track(record, [&](LabelTracking& t) {
+        return t.Move(IsInside(p.x, p.y, record.width, record.height));
+      });
+      return 0;
+    }
+    case WM_LBUTTONDOWN:
+      SetFocus(record.window);
+      return 0;
+    case WM_LBUTTONUP:
+      if (record.enabled == 0) break;
+      Track(record, [](LabelTracking& t) { return t.Release(); });
+      return 0;
+    case WM_COMMAND:
+      PostMessageA(GetParent(record.window), message, wParam, lParam);
+      return 0;
+    case WM_SIZE:
+      record.width = LOWORD(lParam);
+      record.height = HIWORD(lParam);
+      break;
+    case WM_ENABLE:
+      // What painting has switched off comes back with the window.
+      if (wParam != 0) record.enabled = 1;
+      RedrawControl(record.window);
+      return 0;
+    case WM_ERASEBKGND:
+      return 1;
+    case WM_PAINT:
+      Paint(record);
+      return 0;
+    default:
+      break;
+  }
+  return DefWindowProcA(record.window, message, wParam, lParam);
+}
+
+}  // namespace
+
+LRESULT CALLBACK LabelProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  return ControlProc<TContaner, HandleLabel>(window, message, wParam, lParam);
+}
+
+TContaner* CreateLabelControl(int x, int y, int width, int height, HWND parent, int id,
+                              const char* text, bool enabled, bool leftAligned) {
+  const HWND window = CreateWindowExA(
+      0, kLabelClass, "", WS_CHILD | WS_VISIBLE, x, y, width, height, parent,
+      reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), SharedControls().instance, nullptr);
+  auto* const record = GetControlRecord<TContaner>(window, kLabelClass);
+  if (record == nullptr) return nullptr;
+  record->kind = kLabelCaption;
+  record->enabled = enabled ? 1 : 0;
+  record->leftAligned = leftAligned ? 1 : 0;
+  record->text = text;
+  RedrawControl(window);
+  return record;
+}
+
+}  // namespace tarnwick
