@@ -7,9 +7,10 @@
 #include <string>
 
 #include "builder/texture_recipe.h"
-#include "presets/color_preset.h"
+#include "presets/color_list.h"
 #include "presets/preset_check.h"
 #include "presets/preset_writer.h"
+#include "settings/ascii_text.h"
 #include "shipped_presets.h"
 
 namespace tarnwick::content {
@@ -20,7 +21,7 @@ PresetKind FormOf(const std::string& folder) {
   static const std::map<std::string, PresetKind> kForms = {
       {"Basic", PresetKind::kUser},          {"Wash", PresetKind::kWash},
       {"Surface", PresetKind::kSurface},     {"Background", PresetKind::kBackground},
-      {"Colors", PresetKind::kSurfaceColor},
+      {"Colors", PresetKind::kSurfaceColor}, {"BackPalette", PresetKind::kBackground},
   };
   const auto found = kForms.find(folder);
   EXPECT_NE(found, kForms.end()) << folder << " is no folder of presets";
@@ -40,14 +41,17 @@ TEST(Presets, EachFolderHasSomethingToShow) {
   std::set<std::string> names;
   for (const Shipped& preset : ShippedPresets()) {
     ++counts[preset.folder];
-    EXPECT_TRUE(names.insert(preset.name).second) << preset.name << " is ambiguous";
+    EXPECT_TRUE(names.insert(AsciiLowered(preset.name)).second) << preset.name << " is ambiguous";
     EXPECT_LT(preset.name.size(), 64U) << preset.name << " is longer than a name shown may be";
     EXPECT_TRUE(std::ranges::all_of(preset.name, [](char c) { return c >= ' ' && c <= '~'; }));
   }
   EXPECT_GE(counts["Basic"], 5);
-  for (const char* folder : {"Wash", "Surface", "Background", "Colors"}) {
-    EXPECT_GE(counts[folder], 2) << folder;
-  }
+  for (const char* folder : {"Wash", "Surface"}) EXPECT_GE(counts[folder], 2) << folder;
+  EXPECT_GE(counts["Background"], 24);
+  EXPECT_GE(counts["Colors"], 90);
+  // The filmstrip's "none" is one of them, but no palette.
+  EXPECT_GE(counts["BackPalette"], 25);
+  EXPECT_TRUE(names.contains(kNoPaletteName));
 }
 
 TEST(Presets, HaveNoFaultsAndKnownTextures) {
@@ -74,29 +78,16 @@ TEST(Presets, AreWrittenBackAsTheyAre) {
   }
 }
 
-TEST(Presets, ColorsAreFiledByTheDrawersCategories) {
-  const std::set<std::string> known = {
-      "Red Tones",    "Orange Tones",       "Yellow Tones",    "Green Tones",
-      "Blue Tones",   "Pink Tones",         "Purple Tones",    "Black and White tones",
-      "Brown Tones",  "Cool Tones",         "Dark Tones",      "Light Tones",
-      "Medium Tones", "Solid Tones",        "Pastel Tones",    "Vibrant Tones",
-      "Warm Tones",   "Atmospheric Tones",  "Ephemeral Tones", "Leather Tones",
-      "Metal Tones",  "Paper Tones",        "Rust Tones",      "Plant/Natural Tones",
-      "Wood Tones",   "Stone/Mineral Tones"};
-  const auto light = [](std::uint32_t word) {
-    return (word & 255U) * 2 + (word >> 8U & 255U) * 5 + (word >> 16U & 255U);
-  };
+// The filmstrip shows a tone of a lower weight black.
+TEST(Presets, PalettesShowAllTheirTones) {
   for (const Shipped& preset : ShippedPresets()) {
-    if (preset.folder != "Colors") continue;
-    SCOPED_TRACE(preset.name);
-    ColorPreset colors;
-    ASSERT_EQ(ReadColorPreset(preset.bytes, colors), PresetLoad::kLoaded);
-    EXPECT_GT(light(colors.highlight), light(colors.midtone));
-    EXPECT_GT(light(colors.midtone), light(colors.shadow));
-    std::string rest = colors.category + "|";
-    for (std::size_t end; (end = rest.find('|')) != std::string::npos; rest.erase(0, end + 1)) {
-      EXPECT_TRUE(known.contains(rest.substr(0, end))) << rest.substr(0, end);
-    }
+    if (preset.folder != "BackPalette") continue;
+    const EffectSettings look = LookOf(preset).settings;
+    EXPECT_EQ(look.BackgroundUse, preset.name == kNoPaletteName ? 0 : 1) << preset.name;
+    if (look.BackgroundUse == 0) continue;
+    EXPECT_EQ(look.BackgroundHighlight, 100) << preset.name;
+    EXPECT_EQ(look.BackgroundMidtone, 100) << preset.name;
+    EXPECT_EQ(look.BackgroundShadow, 100) << preset.name;
   }
 }
 
