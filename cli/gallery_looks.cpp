@@ -126,9 +126,14 @@ std::vector<AgeStep> ShownBy(PresetKind kind) {
       // something there.
       return {noSurface};
     case PresetKind::kSurface:
+      return {noWash, noBackground};
     case PresetKind::kSurfaceColor:
     case PresetKind::kBackgroundColor:
-      return {noWash, noBackground};
+      // At full strength: under the default tint most colours look alike.
+      return {noWash,
+              noBackground,
+              {Kind::kSet, "SurfaceType1=Colorize"},
+              {Kind::kSet, "SurfaceMidtone=100"}};
     case PresetKind::kBackground:
     case PresetKind::kBackPalette:
       return {noSurface, {Kind::kSet, "WashFileName1=General_Store"}};

@@ -34,7 +34,8 @@ struct GalleryLook {
 };
 
 // The steps that go before a preset of this kind, so that its own share is what
-// is seen: a surface without washes, a background where a wash eats a lot.
+// is seen: a surface without washes, a background where a wash eats a lot, colours
+// at full strength.
 [[nodiscard]] std::vector<AgeStep> ShownBy(PresetKind kind);
 
 // The presets of these kinds, in the library's order. One that cannot be used

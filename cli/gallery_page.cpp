@@ -1,6 +1,8 @@
 #include "gallery_page.h"
 
+#include <algorithm>
 #include <array>
+#include <cmath>
 #include <filesystem>
 
 #include "gallery_assets.h"
@@ -86,6 +88,13 @@ std::string CardText(const GalleryPage& page, const GalleryLook& look) {
   return FillTemplate(kGalleryCard, values);
 }
 
+// How wide a card is at least, so that cards of any shape take about one area.
+std::string CardWidth(const GalleryPage& page) {
+  const double ratio = static_cast<double>(page.smallWidth) / std::max(page.smallHeight, 1);
+  const double rem = std::clamp(14 * std::sqrt(ratio), 11.5, 26.0);
+  return std::to_string(static_cast<int>(rem * 16)) + "px";
+}
+
 // The cards of each kind under its heading, in the order of the looks.
 std::string GroupsText(const GalleryPage& page, std::span<const GalleryLook> looks) {
   std::string text;
@@ -136,7 +145,7 @@ std::string LookCommand(const GalleryPage& page, const GalleryLook& look) {
 
 std::string GalleryPageText(const GalleryPage& page, std::span<const GalleryLook> looks) {
   const std::string count = std::to_string(looks.size()) + (looks.size() == 1 ? " look" : " looks");
-  const std::array<std::pair<std::string_view, std::string>, 12> values = {{
+  const std::array<std::pair<std::string_view, std::string>, 13> values = {{
       {"generator", std::string(kGeneratorTag) + " " TARNWICK_VERSION "\">"},
       {"title", EscapeHtml(page.title)},
       {"photo", EscapeHtml(page.photoName)},
@@ -145,6 +154,7 @@ std::string GalleryPageText(const GalleryPage& page, std::span<const GalleryLook
       {"originalSmall", SmallPicture(kOriginalId)},
       {"width", std::to_string(page.largeWidth)},
       {"height", std::to_string(page.largeHeight)},
+      {"card", CardWidth(page)},
       {"style", std::string(kGalleryStyle)},
       {"groups", GroupsText(page, looks)},
       {"data", DataText(page, looks)},
