@@ -10,5 +10,5 @@ fi
 run gallery --data data photo.jpg -o site --size 400 --kind basic --kind user --kind wash \
   --kind surface
 expect_silence
-python3 "$here/gallery_browser.py" site || fail "the page does not work as it should"
+PYTHONDONTWRITEBYTECODE=1 python3 "$here/gallery_browser.py" site || fail "the page does not work as it should"
 finish
