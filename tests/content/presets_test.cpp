@@ -45,8 +45,8 @@ TEST(Presets, EachFolderHasSomethingToShow) {
     EXPECT_LT(preset.name.size(), 64U) << preset.name << " is longer than a name shown may be";
     EXPECT_TRUE(std::ranges::all_of(preset.name, [](char c) { return c >= ' ' && c <= '~'; }));
   }
-  EXPECT_GE(counts["Basic"], 5);
-  for (const char* folder : {"Wash", "Surface"}) EXPECT_GE(counts[folder], 2) << folder;
+  EXPECT_GE(counts["Basic"], 60);
+  for (const char* folder : {"Wash", "Surface"}) EXPECT_GE(counts[folder], 30) << folder;
   EXPECT_GE(counts["Background"], 24);
   EXPECT_GE(counts["Colors"], 90);
   // The filmstrip's "none" is one of them, but no palette.
@@ -66,6 +66,20 @@ TEST(Presets, HaveNoFaultsAndKnownTextures) {
       EXPECT_TRUE(textures.contains(texture.name)) << texture.line << ": " << texture.name;
     }
   }
+}
+
+// A texture that no look uses is found by nobody.
+TEST(Presets, UseNearlyEveryTexture) {
+  std::set<std::string> unused;
+  for (const TextureRecipe& recipe : AllTextures()) unused.insert(TextureFileName(recipe));
+  const std::size_t all = unused.size();
+  for (const Shipped& preset : ShippedPresets()) {
+    if (preset.folder == "Background" || preset.folder == "BackPalette") continue;
+    for (const PresetTexture& texture : CheckPreset(preset.bytes).textures) {
+      unused.erase(texture.name);
+    }
+  }
+  EXPECT_LE(unused.size(), all / 20) << ::testing::PrintToString(unused);
 }
 
 // A line lost in editing would leave what the preset before it had set.
