@@ -4,31 +4,30 @@
 #include <chrono>
 #include <filesystem>
 #include <string>
+#include <vector>
 
-#include "base/thread_pool.h"
-#include "builder/texture_recipe.h"
+#include "textures/wash_file.h"
 #include "textures/wash_file_writer.h"
 
 namespace tarnwick::content {
 
-// Every texture of the library in a folder of its own, painted small: what a
-// test of looks needs, in a second instead of a minute. The folder goes with it.
+// Every texture of the data folder, reduced, in a folder of its own that goes
+// with it: what a test of looks needs, in seconds instead of minutes. Painting
+// them small would not do: a pixel is the same piece of material at any size,
+// so a small sheet of a burnt rim is nothing but rim.
 class SmallLibrary {
  public:
   SmallLibrary() {
+    namespace fs = std::filesystem;
     // Two builds may be tested at once.
     const auto now = std::chrono::steady_clock::now().time_since_epoch().count();
-    folder_ = std::filesystem::path(::testing::TempDir()) /
-              ("tarnwick_small_library_" + std::to_string(now));
-    std::filesystem::create_directories(folder_);
-    ThreadPool pool(0);
-    for (const TextureRecipe& recipe : AllTextures()) {
-      const Sheet sheet{kWidth, kHeight, recipe.seed, &pool};
-      const auto samples = ToBytes(sheet, PaintTexture(recipe, kWidth, kHeight, &pool));
-      const WashFileHeader header{kWidth, kHeight};
-      const std::string path = (folder_ / TextureFileName(recipe)).string();
-      EXPECT_EQ(WriteWashFile(path, header, samples), WashWriteOutcome::kDone) << path;
+    folder_ = fs::path(::testing::TempDir()) / ("tarnwick_small_library_" + std::to_string(now));
+    fs::create_directories(folder_);
+    std::error_code missing;
+    for (const auto& entry : fs::directory_iterator(TARNWICK_TEXTURES, missing)) {
+      if (entry.path().extension() == ".twk") AddReduced(entry.path());
     }
+    EXPECT_FALSE(missing || fs::is_empty(folder_)) << "no textures: build the target content";
   }
   ~SmallLibrary() {
     std::error_code ignored;
@@ -41,6 +40,29 @@ class SmallLibrary {
 
  private:
   static constexpr int kWidth = 256, kHeight = 192;
+
+  // Each sample is the mean of the block that it stands for.
+  void AddReduced(const std::filesystem::path& path) const {
+    AWashFile file;
+    ImagePtr image;
+    ASSERT_TRUE(file.Open(path.string()) && file.ReadImage(image)) << path;
+    const int across = image->Width() / kWidth, down = image->Height() / kHeight;
+    ASSERT_TRUE(across > 0 && down > 0) << path;
+    std::vector<std::uint8_t> samples;
+    for (int y = 0; y < kHeight; ++y) {
+      for (int x = 0; x < kWidth; ++x) {
+        int sum = 0;
+        for (int row = y * down; row < (y + 1) * down; ++row) {
+          const std::uint8_t* const from = image->PeekInterior() + row * image->RowBytes();
+          for (int column = x * across; column < (x + 1) * across; ++column) sum += from[column];
+        }
+        samples.push_back(static_cast<std::uint8_t>(sum / (across * down)));
+      }
+    }
+    const std::string to = (folder_ / path.filename()).string();
+    ASSERT_EQ(WriteWashFile(to, {kWidth, kHeight}, samples), WashWriteOutcome::kDone) << to;
+  }
+
   std::filesystem::path folder_;
 };
 
