@@ -18,9 +18,9 @@ bool IsDigitOrLetter(char c) {
   return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
 }
 
-// No shell gives these a meaning, wherever they stand in a word.
+// No shell gives these a meaning inside a word; "=" has one at its start.
 bool IsPlainInShell(char c) {
-  return IsDigitOrLetter(c) || std::string_view("_-./,:+@%").find(c) != std::string_view::npos;
+  return IsDigitOrLetter(c) || std::string_view("_-./,:+@%=").find(c) != std::string_view::npos;
 }
 
 bool IsShowable(std::string_view word) {
@@ -95,7 +95,7 @@ std::string JsonForScript(std::string_view json) {
 }
 
 std::string ShellWord(std::string_view word) {
-  if (!word.empty() && std::all_of(word.begin(), word.end(), IsPlainInShell)) {
+  if (!word.empty() && word[0] != '=' && std::all_of(word.begin(), word.end(), IsPlainInShell)) {
     return std::string(word);
   }
   if (!IsShowable(word)) return QuotedByCodes(word);

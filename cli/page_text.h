@@ -17,9 +17,9 @@ namespace tarnwick {
 // begins a comment. It means the same.
 [[nodiscard]] std::string JsonForScript(std::string_view json);
 
-// One word for a shell: as it is where that is safe, else quoted. Words with
-// bytes that cannot be shown take the form $'...', which bash, zsh and the
-// POSIX shell of 2024 know.
+// A word for a shell, not the first one: as it is where that is safe, else quoted.
+// Words with bytes that cannot be shown take the form $'...', which bash, zsh and
+// the POSIX shell of 2024 know.
 [[nodiscard]] std::string ShellWord(std::string_view word);
 
 // A name of a-z, 0-9 and single "-", at most 60 bytes, for file names and links

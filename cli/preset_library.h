@@ -17,8 +17,8 @@ struct PresetEntry {
 };
 
 // The kinds whose folders are searched, in this order.
-inline constexpr PresetKind kSettingsKinds[] = {PresetKind::kBasic, PresetKind::kUser,
-                                                PresetKind::kWash, PresetKind::kSurface,
+inline constexpr PresetKind kSettingsKinds[] = {PresetKind::kBasic,      PresetKind::kUser,
+                                                PresetKind::kWash,       PresetKind::kSurface,
                                                 PresetKind::kBackground, PresetKind::kBackPalette};
 inline constexpr PresetKind kColorKinds[] = {PresetKind::kSurfaceColor};
 inline constexpr PresetKind kAllKinds[] = {PresetKind::kBasic,      PresetKind::kUser,

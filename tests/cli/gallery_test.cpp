@@ -64,7 +64,7 @@ TEST(Gallery, CommandLines) {
        {"--data", "my data"},
        "a/barn.PNG",
        {{Kind::kSet, "WashUse=0"}, {Kind::kSurfaceColors, "Tin"}},
-       "tarnwick age --data 'my data' --set 'WashUse=0' --surface-colors Tin "
+       "tarnwick age --data 'my data' --set WashUse=0 --surface-colors Tin "
        "-o 'barn - Look.PNG' a/barn.PNG"},
       {"a photograph that looks like an option, of a kind that is only read",
        {},
