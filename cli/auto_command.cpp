@@ -87,6 +87,9 @@ AgeOptions OptionsOf(const ParsedArguments& arguments, std::uint32_t seed) {
   if (const std::string* name = arguments.Value("save-preset")) options.savePreset = *name;
   if (arguments.Has("print")) {
     if (arguments.Has("output")) FailUse("-o", "excludes --print", "give one of them");
+    if (!arguments.operands.empty()) {
+      FailUse(arguments.operands[0], "--print takes no photograph", "leave one of them out");
+    }
     return options;
   }
   if (arguments.operands.size() != 1) {

@@ -123,7 +123,8 @@ fs::path FindTexture(const std::string& name, const DataFolders& folders) {
 
 // What the drawer keeps beside a texture, so that it need not decode it again.
 std::string ThumbnailText(const fs::path& path) {
-  const std::string cache = ThumbnailPath(path.parent_path().string(), path.filename().string());
+  const fs::path folder = path.has_parent_path() ? path.parent_path() : fs::path(".");
+  const std::string cache = ThumbnailPath(folder.string(), path.filename().string());
   std::error_code fault;
   if (!fs::exists(cache, fault)) return "none yet";
   const auto picture = ReadThumbnail(cache);

@@ -12,6 +12,7 @@
 #include "builder/texture_recipe.h"
 #include "textures/texture_effects.h"
 #include "textures/wash_file_writer.h"
+#include "toolbox/busy_steps.h"
 
 namespace tarnwick::content {
 namespace {
@@ -128,7 +129,9 @@ int Build(const Options& options, const std::vector<TextureRecipe>& recipes) {
   for (const TextureRecipe& recipe : recipes) {
     const Field field = PaintTexture(recipe, recipe.width, recipe.height, &pool);
     const Sheet sheet{recipe.width, recipe.height, recipe.seed, &pool};
-    const GreyPicture picture{recipe.width, recipe.height, ToBytes(sheet, field)};
+    GreyPicture picture{recipe.width, recipe.height, ToBytes(sheet, field)};
+    // Half of the library's bytes are grain that packs badly.
+    CoarsenBusySteps(picture.samples, recipe.width, &pool);
     if (!WriteTexture(options, recipe, picture)) return kFailed;
     if (options.contactSheet.empty()) continue;
     cells.push_back(Stacked(Reduced(picture, kCellWidth, kCellHeight),

@@ -4,6 +4,7 @@
 #include "presets/color_list.h"
 #include "presets/preset_file.h"
 #include "presets/preset_kind.h"
+#include "settings/ascii_text.h"
 #include "settings/settings_access.h"
 
 namespace tarnwick {
@@ -16,6 +17,18 @@ constexpr int kColorPercent = 20;
 constexpr int kFirstWithoutWash = 951;  // of 1000
 constexpr int kLastWithOneWash = 850;   // of 1000
 constexpr std::uint32_t kDrawerSeed = 12345678;
+
+// As a file of the folder is spelled that differs in capitals only: lists show names
+// without their extension, in whatever capitals that is.
+std::string SpelledIn(const fs::path& folder, const std::string& name) {
+  std::error_code error;
+  if (fs::exists(folder / name, error)) return name;
+  for (const fs::directory_entry& entry : fs::directory_iterator(folder, error)) {
+    std::string found = entry.path().filename().string();
+    if (EqualIgnoringCase(found, name)) return found;
+  }
+  return name;
+}
 
 class Thrower {
  public:
@@ -83,9 +96,9 @@ class Thrower {
   // Its tones come to the session. A file that cannot be read leaves those of
   // the one before it.
   void ReadColors(const std::string& name) {
-    const fs::path path = library_.presetRoot / PresetFolder(PresetKind::kSurfaceColor) /
-                          (name + "." + std::string(kPresetExtension));
-    (void)LoadPresetFile(path, settings_, session_);
+    const fs::path folder = library_.presetRoot / PresetFolder(PresetKind::kSurfaceColor);
+    const std::string file = name + "." + std::string(kPresetExtension);
+    (void)LoadPresetFile(folder / SpelledIn(folder, file), settings_, session_);
   }
 
   void ThrowSurfaceColors() {

@@ -36,9 +36,9 @@ struct AutoThrow {
 // random texture, kind and colour.
 //
 // What it stores may lie outside what the dialog can set: kind 4 of a wash, for
-// which there is no name, and a coverage scale of 0. Coverage is -98..0. Both are
-// taken as they stand. Of "Reset Colors" for the background only the category
-// shows: the record keeps the colours of its preset.
+// which there is no name, and a coverage scale of 0. Coverage that is thrown is
+// -98..0; that of a Basic preset below it may stay. All are taken as they stand. Of "Reset Colors"
+// for the background only the category shows: the record keeps the colours of its preset.
 //
 // With no textures the wash is "No_Texture.twk".
 AutoThrow AutoRandomize(const AutoLibrary& library, EffectSettings& settings,

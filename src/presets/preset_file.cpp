@@ -1,9 +1,9 @@
 #include "presets/preset_file.h"
 
 #include <fstream>
-#include <random>
 #include <system_error>
 
+#include "base/unused_name.h"
 #include "presets/preset_reader.h"
 #include "presets/preset_writer.h"
 
@@ -11,18 +11,6 @@ namespace tarnwick {
 namespace {
 
 namespace fs = std::filesystem;
-
-// A name beside `path` that no file has. Two savers at once get different ones.
-fs::path UnusedNameBeside(const fs::path& path) {
-  std::random_device random;
-  fs::path name;
-  std::error_code error;
-  do {
-    name = path;
-    name += "." + std::to_string(random()) + ".new";
-  } while (fs::exists(name, error));
-  return name;
-}
 
 // Through a link the file that it names is replaced, not the link.
 fs::path TargetOf(const fs::path& path) {

@@ -5,8 +5,9 @@
 
 namespace tarnwick {
 
-// Room for a name in a list of textures. Longer names are cut, and a cut name
-// opens no file: such a texture is listed, but has no thumbnail and no tags.
+// Room for a name in a list of textures. Longer names are cut, and a cut name opens
+// no file: such a texture is listed, but has no thumbnail. It has no tags either,
+// unless only the extension is cut off.
 inline constexpr std::size_t kMaxListedName = 32;
 
 // What a picker knows of a texture: its file's name and what the header tells.

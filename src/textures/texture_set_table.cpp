@@ -3,13 +3,14 @@
 #include <algorithm>
 #include <charconv>
 #include <fstream>
-#include <iterator>
 
 #include "settings/ascii_text.h"
 
 namespace tarnwick {
 namespace {
 
+// Far more sets than a list can show.
+constexpr std::size_t kMostBytes = 1U << 16;
 constexpr std::string_view kBlanks = " \t\r";
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
@@ -60,6 +61,12 @@ class Parser {
   }
 
   void TakeSet(std::uint32_t id, std::string_view name) {
+    const bool hasControl =
+        std::ranges::any_of(name, [](char c) { return static_cast<unsigned char>(c) < ' '; });
+    if (hasControl) {
+      Fault("the name of set " + std::to_string(id) + " holds a control character");
+      return;
+    }
     if (name.size() > kMaxSetName) {
       Fault("the name of set " + std::to_string(id) + " is longer than " +
             std::to_string(kMaxSetName) + " bytes and was cut");
@@ -93,9 +100,15 @@ bool LoadTextureSets(const std::filesystem::path& path, TextureSetTable& sets,
   if (!std::filesystem::is_regular_file(path, error)) return false;
   std::ifstream file(path, std::ios::binary);
   if (!file) return false;
-  const std::string text{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-  if (file.bad()) return false;
+  std::string text(kMostBytes + 1, '\0');
+  file.read(text.data(), static_cast<std::streamsize>(text.size()));
+  if (file.bad() || (file.gcount() == 0 && !file.eof())) return false;
+  text.resize(static_cast<std::size_t>(file.gcount()));
+  const bool isLonger = text.size() > kMostBytes;
+  // Not in the middle of a line.
+  if (isLonger) text.resize(text.find_last_of('\n') + 1);
   sets = ParseTextureSets(text, faults);
+  if (isLonger) faults.push_back({0, "the file is too long; what is beyond 64 KiB was not read"});
   return true;
 }
 

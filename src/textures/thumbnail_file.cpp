@@ -7,6 +7,8 @@
 #include <string_view>
 #include <system_error>
 
+#include "base/unused_name.h"
+
 namespace tarnwick {
 namespace {
 
@@ -89,7 +91,8 @@ std::optional<ThumbnailPicture> ReadThumbnail(const std::string& path) {
   const bool isPacked = Get(bytes, 30, 4) != 0;
   if (isPacked || width - 1 >= kLongestSide || height - 1 >= kLongestSide) return std::nullopt;
   const std::size_t rowBytes = RowBytes(width);
-  if (start > bytes.size() || bytes.size() - start < rowBytes * height) return std::nullopt;
+  if (start < kHeaderBytes || start > bytes.size() || bytes.size() - start < rowBytes * height)
+    return std::nullopt;
   ThumbnailPicture picture(static_cast<int>(width), static_cast<int>(height));
   for (std::size_t y = 0; y < height; ++y) {
     const char* from = bytes.data() + start + (height - 1 - y) * rowBytes;
@@ -108,7 +111,7 @@ std::optional<ThumbnailPicture> ReadThumbnail(const std::string& path, Thumbnail
 }
 
 bool WriteThumbnail(const std::string& path, const ThumbnailPicture& picture) {
-  const std::string part = path + ".part";
+  const std::string part = UnusedNameBeside(path).string();
   std::error_code error;
   if (WriteBytes(part, BitmapBytes(picture))) {
     std::filesystem::rename(part, path, error);

@@ -180,11 +180,36 @@ TEST_F(AutoTest, SeedsThrowTheirLooks) {
 
 // Seed 32 draws "Reset Colors" for the background: the record is left alone.
 TEST_F(AutoTest, ResetColorsTakesTheCategoryOnly) {
-  Put("Background/Pine.twkpst", "nOkB 1 ;\nNFkB Pine.twk ;\n1CHB 77 ;\n");
-  for (const std::string& change : ChangesOf(32)) {
-    EXPECT_FALSE(change.starts_with("BackgroundColorCategory")) << change;
-  }
+  Put("Background/Pine.twkpst", "nOkB 1 ;\nNFkB Pine.twk ;\nlCHB 77 ;\n");
+  const Strings changes = ChangesOf(32);
   EXPECT_EQ(thrown_.backgroundColors, kResetColorsName);
+  EXPECT_THAT(changes, Contains("BackgroundHighlightColor #4d0000"));
+}
+
+// For the surface the record takes them.
+TEST_F(AutoTest, ResetColorsTakesThoseOfThePresetAway) {
+  for (const char* name : {"Surface/Hide.twkpst", "Surface/Slab.twkpst"}) {
+    Put(name, "nOfS 1 ;\n1NFS Hide.twk ;\n1CHS 77 ;\n");
+  }
+  EXPECT_THAT(ChangesOf(3), Contains("SurfaceHighlightColor #4d0000"));
+  std::uint32_t seed = 0;
+  Strings changes;
+  do {
+    changes = ChangesOf(++seed);
+  } while (thrown_.surfaceColors != kResetColorsName && seed < 5000);
+  ASSERT_EQ(thrown_.surfaceColors, kResetColorsName);
+  for (const std::string& change : changes) {
+    EXPECT_FALSE(change.starts_with("SurfaceHighlightColor")) << change;
+  }
+}
+
+TEST_F(AutoTest, ReadsColorsWhateverTheCapitalsOfTheirFile) {
+  for (const char* name : {"Dawn", "Dusk"}) {
+    const auto colors = std::filesystem::path(folder_.Path()) / "Colors";
+    std::filesystem::rename(colors / (std::string(name) + ".twkpst"),
+                            colors / (std::string(name) + ".TWKPST"));
+  }
+  EXPECT_THAT(ChangesOf(31), Contains("SurfaceHighlightColor #010000"));
 }
 
 TEST_F(AutoTest, PoorLibraries) {

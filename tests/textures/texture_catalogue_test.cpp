@@ -64,15 +64,17 @@ TEST(TextureList, NoTextureComesFirst) {
 
 TEST(TextureList, Headers) {
   const TempFolder folder;
-  // 31 and 32 bytes, with ".twk".
-  const std::string fits = std::string(27, 'f') + ".twk";
-  const std::string tooLong = std::string(28, 't') + ".twkk";
+  // 32, 36 and 40 bytes: all of it, all but the extension, and less fit a list.
+  const std::string fits = std::string(28, 'f') + ".twk";
+  const std::string bare = std::string(32, 'b') + ".twk";
+  const std::string tooLong = std::string(36, 't') + ".twk";
   folder.Put("Good.twk", Header(7, 0xFFFFFFFF, 0x80000002));
   folder.Put("Short.twk", Cut(Header(7, 1, 2), 1));
   Bytes other = Header(7, 1, 2);
   other[0] = '2';
   folder.Put("Other.twk", other);
   folder.Put(fits, Header(3, 0, 0));
+  folder.Put(bare, Header(3, 0, 0));
   folder.Put(tooLong, Header(3, 0, 0));
   const struct {
     std::string name;
@@ -84,6 +86,7 @@ TEST(TextureList, Headers) {
       {"Other.twk", 0, 0, 0},
       {"Gone.twk", 0, 0, 0},
       {fits, 3, 0, 0},
+      {bare, 3, 0, 0},     // the extension comes back
       {tooLong, 0, 0, 0},  // its cut name opens no file
   };
   for (const auto& c : kFiles) {
@@ -100,7 +103,7 @@ TEST(TextureList, Headers) {
   }
   folder.Put("Note.txt", {});
   EXPECT_THAT(ScanTextureNames(folder.Path()),
-              UnorderedElementsAre("Good.twk", "Short.twk", "Other.twk", fits));
+              UnorderedElementsAre("Good.twk", "Short.twk", "Other.twk", fits, bare, tooLong));
   EXPECT_THAT(ScanTextureNames(folder.Path() + "/none"), IsEmpty());
 }
 

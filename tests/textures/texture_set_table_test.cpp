@@ -38,6 +38,7 @@ const struct {
     {"no name", "1\n2\t\n3\tC\n", "3=C;", {1, 2}},
     {"a number twice", "1\tA\n1\tB\n2\tC\n", "1=A;2=C;", {2}},
     {"a name twice", "1\tA\n2\ta\n", "1=A;", {2}},
+    {"a control character in a name", "1\tA\x1B[31m\n2\tB\tC\n3\tD\n", "3=D;", {1, 2}},
     {"nothing", "", "", {}},
 };
 
@@ -72,6 +73,15 @@ TEST(TextureSetTable, FilesAndLookUps) {
   EXPECT_FALSE(LoadTextureSets(folder.Path(), read, faults));
   EXPECT_TRUE(read.empty());
   EXPECT_FALSE(LoadTextureSets(folder.Path() + "/none", read, faults));
+  EXPECT_FALSE(LoadTextureSets("/proc/self/mem", read, faults));
+  // A file without end is read for 64 KiB, to the end of a line.
+  std::string longText = "1\tA\n";
+  while (longText.size() < (1U << 16)) longText += "; " + std::string(97, 'x') + "\n";
+  std::ofstream(path, std::ios::binary) << longText << "2\tB\n";
+  faults.clear();
+  EXPECT_TRUE(LoadTextureSets(path, read, faults));
+  EXPECT_EQ(Listed(read), "1=A;");
+  EXPECT_EQ(faults.size(), 1U);
 }
 
 }  // namespace
