@@ -1,5 +1,6 @@
 // Blocks that give every place of a sheet a number.
 #include "pages/toolbox_blocks.h"
+#include "toolbox/busy_steps.h"
 #include "toolbox/cells.h"
 #include "toolbox/facets.h"
 #include "toolbox/filters.h"
@@ -132,6 +133,26 @@ Field Toned(const Sheet& sheet) {
   return tone;
 }
 
+// Grit that comes down over a smooth slope: before, after, and what was changed.
+Field Coarsened(const Sheet& sheet) {
+  const Fbm grit{9.0F, 3, 0.7F, sheet.seed};
+  const Field before = Painted(sheet, [&](Spot p) {
+    const float depth = p.fy / static_cast<float>(sheet.height);
+    return 0.35F + 0.3F * depth + 0.9F * SmoothRamp(0.25F, 1.0F, depth) * grit(p);
+  });
+  std::vector<std::uint8_t> after = ToBytes(sheet, before);
+  const std::vector<std::uint8_t> fine = after;
+  CoarsenBusySteps(after, sheet.width, sheet.pool);
+  return Painted(sheet, [&](Spot p) {
+    const std::size_t at = static_cast<std::size_t>(p.y) * static_cast<std::size_t>(sheet.width) +
+                           static_cast<std::size_t>(p.x);
+    if (ColumnOf(sheet, p, 3) == 0) return before(p);
+    const float value = static_cast<float>(after[at]);
+    if (ColumnOf(sheet, p, 3) == 1) return value / 255.0F;
+    return 1.0F - Abs(value - static_cast<float>(fine[at])) / 5.0F;
+  });
+}
+
 }  // namespace
 
 ToolboxChapter GroundBlocks() {
@@ -151,7 +172,10 @@ ToolboxChapter GroundBlocks() {
         Sweep},
        {"filters", "Blur, distance to the nearest mark, light from the top left, runs downwards.",
         Filtered},
-       {"tone", "Levels, thresholds and curves, and the stretch to the whole range.", Toned}}};
+       {"tone", "Levels, thresholds and curves, and the stretch to the whole range.", Toned},
+       {"busy_steps",
+        "Coarser steps where grit hides them, which makes smaller files; smooth places keep all.",
+        Coarsened}}};
 }
 
 }  // namespace tarnwick::content
