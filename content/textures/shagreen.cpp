@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "builder/texture_recipe.h"
-#include "toolbox/cells.h"
 #include "toolbox/filters.h"
 #include "toolbox/hash.h"
 #include "toolbox/maths.h"
@@ -24,6 +23,13 @@ struct Bead {
   std::uint32_t hash = 0;
 };
 
+// The grains about a place: pixels from the rims of the nearest two.
+struct Crowd {
+  float first, second;
+  float size;
+  std::uint32_t hash;
+};
+
 Field Paint(const Sheet& sheet) {
   const std::uint32_t seed = sheet.seed;
   const float width = static_cast<float>(sheet.width);
@@ -31,8 +37,10 @@ Field Paint(const Sheet& sheet) {
   const std::vector<Piece> beads = Packed(
       sheet, {.maxRadius = 38.0F, .minRadius = 9.0F, .gap = 1.0F, .effort = 7.0F, .sizes = 16},
       seed);
-  const Cells grains{17.5F, 0.72F, seed + 5};
-  const Warp uneven{3.0F, {30.0F, 3, 0.55F, seed + 6}};
+  // Grains are thrown, not set out: a lattice shows however its points are moved.
+  const std::vector<Piece> grains = Packed(
+      sheet, {.maxRadius = 11.5F, .minRadius = 5.2F, .gap = 0.5F, .effort = 6.0F, .sizes = 7},
+      seed + 5);
   const Fbm line{620.0F, 2, 0.5F, seed + 12};
   const Fbm mottle{7.0F, 4, 0.66F, seed + 16};
   const Fbm dye{300.0F, 5, 0.55F, seed + 20};
@@ -65,17 +73,37 @@ Field Paint(const Sheet& sheet) {
     if (here.size > 0.0F && edge < here.edge) return;
     if (edge > -4.0F) here = {edge, bead.radius, bead.hash};
   });
-  // Grains fill what the beads leave.
+  // No grain half under a bead: it would show as a sickle.
+  std::vector<Piece> loose;
+  for (const Piece& grain : grains) {
+    const float x = Clamp(grain.x, 0.0F, width - 1.0F);
+    const float y = Clamp(grain.y, 0.0F, tall - 1.0F);
+    const Bead& under = at({static_cast<int>(x), static_cast<int>(y), x, y});
+    if (under.size <= 0.0F || under.edge < -1.5F) loose.push_back(grain);
+  }
+  // Grains fill what the beads leave: each swells until it meets the next.
+  std::vector<Crowd> crowds(found.size(), Crowd{1e9F, 1e9F, 0.0F, 0});
+  ForPieces(sheet, loose, 2.6F, [&](const Piece& grain, Spot p, float dx, float dy) {
+    const float stretch = 0.92F + 0.16F * Unit(Hash(grain.hash + 2));
+    const float out = (Length(dx * stretch, dy / stretch) - 1.0F) * grain.radius;
+    Crowd& here = crowds[static_cast<std::size_t>(p.y) * static_cast<std::size_t>(sheet.width) +
+                         static_cast<std::size_t>(p.x)];
+    if (out < here.first) {
+      here = {out, here.first, grain.radius, grain.hash};
+    } else if (out < here.second) {
+      here.second = out;
+    }
+  });
   const Survey<Bead> all(sheet, [&](Spot p) {
     const Bead& here = at(p);
     if (here.size > 0.0F && here.edge > 0.0F) return here;
-    const Spot q = uneven(p);
-    const float finer = 1.0F + 0.5F * aside(p.fx, p.fy);
-    const CellSample grain = grains.WithEdge((q.fx - 0.46F * width) * finer, q.fy);
+    const Crowd& crowd =
+        crowds[static_cast<std::size_t>(p.y) * static_cast<std::size_t>(sheet.width) +
+               static_cast<std::size_t>(p.x)];
     // One that a bead crowds out is cut short by it.
-    float edge = Min(grain.edge, 0.52F - grain.f1 * 0.55F) * 17.5F;
+    float edge = Min(0.5F * (crowd.second - crowd.first) - 0.3F, 5.0F - crowd.first);
     if (here.size > 0.0F) edge = Min(edge, -here.edge);
-    return Bead{edge, 8.5F, grain.hash};
+    return Bead{edge + 0.5F * rough(p), crowd.size + 1.0F, crowd.hash};
   });
   const Field height = Painted(sheet, [&](Spot p) {
     const Bead& bead = all(p);
