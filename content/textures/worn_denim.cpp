@@ -40,16 +40,19 @@ Field Paint(const Sheet& sheet) {
                     .weftPitch = 8.6F,
                     .warpFill = 1.06F,
                     .weftFill = 0.9F,
-                    .uneven = 0.24F,
-                    .slub = 0.34F,
-                    .slubLength = 210.0F,
-                    .wander = 0.16F,
+                    .uneven = 0.30F,
+                    .slub = 0.36F,
+                    .slubLength = 150.0F,
+                    .wander = 0.19F,
                     .crimp = 0.9F,
                     .binding = Binding::kTwill,
                     .seed = seed};
   const Warp drawn{18.0F, {420.0F, 3, 0.5F, seed + 1}};
   const Warp rough{1.0F, {9.0F, 2, 0.6F, seed + 2}};
-  const Survey<Weave::Place> places(sheet, [&](Spot p) { return twill.At(rough(drawn(p))); });
+  // Yarn of uneven thickness crowds and parts: an even pitch beats with the screen.
+  const Warp crowded{2.6F, {40.0F, 3, 0.6F, seed + 3}};
+  const Survey<Weave::Place> places(sheet,
+                                    [&](Spot p) { return twill.At(rough(crowded(drawn(p)))); });
 
   // Whiskers fan out from the left, roping lies square to the seam.
   const Fbm fan{120.0F, 3, 0.5F, seed + 5};
@@ -79,9 +82,11 @@ Field Paint(const Sheet& sheet) {
                        0.14F * streak(p.fx, p.fy * 0.05F);
     const float hair = fibre(at.along * 0.18F, at.across * 4.0F + Unit(at.thread) * 300.0F);
     const float dye = Unit(Hash(at.thread + 5)) - 0.5F;
-    float value =
-        at.warp ? 0.10F + 0.20F * at.height + 0.12F * dye : 0.40F + 0.24F * at.height + 0.08F * dye;
     const float worn = Clamp01(fade * 0.9F + 0.30F * (at.height - 0.35F) + 0.12F * hair);
+    // New cloth hides its weft; rubbed cloth does not.
+    const float bared = SmoothRamp(-0.25F, 0.35F, fade);
+    float value = at.warp ? 0.10F + 0.20F * at.height + 0.16F * dye
+                          : 0.17F + 0.23F * bared + 0.22F * at.height + 0.10F * dye;
     value = Mix(value, 0.82F + 0.12F * at.height, worn) + 0.06F * hair + 0.13F * bend(p);
     const float gap =
         Max(Exp(-Square((s + 39.0F) / 3.0F)), 0.5F * Exp(-Square((s - 43.0F) / 3.0F)));
