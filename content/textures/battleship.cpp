@@ -24,9 +24,9 @@
 namespace tarnwick::content {
 namespace {
 
-constexpr float kStrake = 452.0F;  // height of a row of plates, pixels
+constexpr float kStrake = 410.0F;  // mean height of a row of plates, pixels
 constexpr float kPlate = 1020.0F;  // mean length of a plate
-constexpr float kPitch = 67.0F, kInset = 33.0F, kRivet = 14.0F;
+constexpr float kPitch = 67.0F, kInset = 33.0F, kRivet = 17.0F;
 
 struct PlateSpot {
   std::uint32_t plate;  // which
@@ -37,7 +37,12 @@ struct PlateSpot {
 PlateSpot PlateAt(float x, float y, std::uint32_t seed) {
   // Shell plating is fair, not straight.
   y += 190.0F + 3.0F * LineNoise(x / 240.0F, seed + 2);
-  const int row = FloorInt(y / kStrake);
+  // Rows as the yard had plates for: broad ones and narrow ones.
+  const auto top = [&](int i) {
+    return (static_cast<float>(i) + 0.72F * (Unit(HashAt(i, 5, seed + 3)) - 0.5F)) * kStrake;
+  };
+  int row = FloorInt(y / kStrake) - 1;
+  while (y >= top(row + 1)) ++row;
   const auto end = [&](int i) {
     return (static_cast<float>(i) + 0.55F * Unit(HashAt(i, row, seed)) +
             0.37F * static_cast<float>(row & 3)) *
@@ -45,18 +50,41 @@ PlateSpot PlateAt(float x, float y, std::uint32_t seed) {
   };
   int i = FloorInt(x / kPlate) - 3;
   while (x >= end(i + 1)) ++i;
-  const float v = y - static_cast<float>(row) * kStrake;
-  return {HashAt(i, row, seed + 1), x - end(i), v, end(i + 1) - x, kStrake - v};
+  return {HashAt(i, row, seed + 1), x - end(i), y - top(row), end(i + 1) - x, top(row + 1) - y};
 }
 
 struct RivetSpot {
   float distance;  // pixels from the nearest rivet's middle
   float age;       // 0..1, one for each rivet
+  float dx, dy;    // from its middle, pixels
 };
+
+// A hammered head, 0 at its rim to 1 on its crown, which sits below its middle:
+// the flank that people expect in the light is the broad one.
+float Dome(const RivetSpot& rivet) {
+  if (rivet.distance >= kRivet) return 0.0F;
+  constexpr float kOffX = 3.0F, kOffY = 6.0F;
+  // The circle through this place, of those that shrink from the rim to the crown.
+  const float px = rivet.dx - kOffX;
+  const float py = rivet.dy - kOffY;
+  const float b = px * kOffX + py * kOffY;
+  const float a = kRivet * kRivet - kOffX * kOffX - kOffY * kOffY;
+  const float s = Min(1.0F, (b + Sqrt(b * b + a * (px * px + py * py))) / a);
+  return 1.0F - s * s;
+}
+
+// Enamel shines on the flank above, 0..1: without a light side a dark head is
+// taken for a hole.
+float LitFlank(const RivetSpot& rivet) {
+  if (rivet.distance >= kRivet) return 0.0F;
+  const float d = rivet.distance / kRivet;
+  const float up = -(0.45F * rivet.dx + 0.89F * rivet.dy) / kRivet;
+  return SmoothRamp(0.05F, 0.75F, up) * SmoothRamp(1.0F, 0.80F, d);
+}
 
 // Laps are riveted twice, above and below the edge of the upper plate.
 RivetSpot RivetAt(const PlateSpot& p) {
-  RivetSpot nearest{1e9F, 0.0F};
+  RivetSpot nearest{1e9F, 0.0F, 0.0F, 0.0F};
   const float n = p.u / kPitch;
   const int i = FloorInt(n);
   for (int row = 0; row < 2; ++row) {
@@ -66,7 +94,8 @@ RivetSpot RivetAt(const PlateSpot& p) {
     const float cy = kInset + 4.0F * (Unit(Hash(h)) - 0.5F);
     if (cx < 40.0F || p.u + p.toEnd - cx < 40.0F) continue;
     const float d = Length(p.u - cx, across - cy);
-    if (d < nearest.distance) nearest = {d, Unit(Hash(h + 5))};
+    const float dy = row == 0 ? across - cy : cy - across;
+    if (d < nearest.distance) nearest = {d, Unit(Hash(h + 5)), p.u - cx, dy};
   }
   return nearest;
 }
@@ -130,15 +159,17 @@ Field Paint(const Sheet& sheet) {
     const float lap = Min(at.v, at.toFoot);
     const float weak = 0.22F * Exp(-lap / 16.0F) +
                        0.34F * rivet.age * rivet.age * SmoothRamp(34.0F, 10.0F, rivet.distance);
-    const float chip = 0.55F * SmoothRamp(0.0F, 0.6F, chips(q).depth);
-    return 0.07F + wear(q) + weak + chip * SoftThreshold(wear(p), -0.1F, 0.5F) + 0.25F * gouge(p);
+    float chip = SmoothRamp(0.0F, 0.6F, chips(q).depth);
+    if (chip > 0.0F) chip *= 0.55F * SoftThreshold(wear(p), -0.1F, 0.5F);
+    return 0.07F + wear(q) + weak + chip + 0.25F * gouge(p);
   });
 
   // Pits that were painted over, in swarms.
   const Spots holes{15.0F, 0.6F, 1.2F, 6.5F, seed + 34};
   const Fbm swarm{140.0F, 4, 0.55F, seed + 35};
   const auto pit = [&](Spot p) {
-    return SmoothRamp(0.0F, 0.7F, holes(torn(p)).depth) * SoftThreshold(swarm(p), 0.20F, 0.35F);
+    const float many = SoftThreshold(swarm(p), 0.20F, 0.35F);
+    return many > 0.0F ? many * SmoothRamp(0.0F, 0.7F, holes(torn(p)).depth) : 0.0F;
   };
 
   Field height = Painted(sheet, [&](Spot p) {
@@ -150,7 +181,7 @@ Field Paint(const Sheet& sheet) {
     h += 0.12F * SmoothRamp(60.0F, 0.0F, at.toFoot) - 0.12F * SmoothRamp(40.0F, 0.0F, at.v);
     const float dent = dents(pushed(p)).depth;
     h -= 0.16F * dent * dent * (3.0F - 2.0F * dent);
-    if (rivet.distance < kRivet) h += 0.40F * Sqrt(1.0F - Square(rivet.distance / kRivet));
+    h += 0.27F * Dome(rivet) - 0.30F * LitFlank(rivet);
     h += 0.26F * Weld(at, at.plate);
 
     const float coats = SoftThreshold(w, 0.40F, 0.05F) + SoftThreshold(w, 0.52F, 0.05F) +
@@ -160,11 +191,11 @@ Field Paint(const Sheet& sheet) {
     h -= 0.10F * coats;
     // Rims of broken coats stand up a little.
     h += 0.09F * SmoothRamp(0.34F, 0.40F, w) * SmoothRamp(0.415F, 0.40F, w);
-    const float blister = blisters(torn(p)).depth * SoftThreshold(w, 0.16F, 0.3F) *
-                          (1.0F - SoftThreshold(w, 0.40F, 0.05F));
-    h += 0.24F * Sqrt(blister);
+    const float loose = SoftThreshold(w, 0.16F, 0.3F) * (1.0F - SoftThreshold(w, 0.40F, 0.05F));
+    if (loose > 0.0F) h += 0.24F * Sqrt(blisters(torn(p)).depth * loose);
     h += (0.05F * lumps(p) + 0.075F * peel(p)) * (1.0F - bare) + 0.16F * run(p) * (1.0F - bare);
-    h += (0.12F + 0.14F * rust) * bare * crust(p) - 0.30F * pit(p);
+    if (bare > 0.0F) h += (0.12F + 0.14F * rust) * bare * crust(p);
+    h -= 0.30F * pit(p);
     return h - 0.34F * gouge(p) * (1.0F - 0.5F * rust);
   });
   Repaint(sheet, height, [&](Spot p) { return 1.0F - height(p); });

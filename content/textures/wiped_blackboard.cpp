@@ -71,21 +71,34 @@ Field Paint(const Sheet& sheet) {
   // What was written there shows through, where the felt was light.
   StrokeSet lines;
   Dice hand(seed + 40);
-  for (int i = 0; i < 7; ++i) {
+  for (const float at : {0.20F, 0.385F, 0.61F, 0.885F}) {
     Script line;
-    line.x = hand.Between(0.05F, 0.20F) * width;
-    line.y = (0.12F + 0.135F * static_cast<float>(i)) * tall;
-    line.length = hand.Between(0.45F, 0.72F) * width;
-    line.xHeight = hand.Between(36.0F, 44.0F);
-    line.heading = hand.Around(-0.02F, 0.02F);
-    line.radius = 3.4F;
+    line.x = hand.Between(0.06F, 0.34F) * width;
+    line.y = hand.Around(at, 0.02F) * tall;
+    line.length = hand.Between(0.26F, 0.58F) * width;
+    line.xHeight = hand.Between(34.0F, 47.0F);
+    line.heading = hand.Around(-0.025F, 0.02F);
+    line.radius = 4.4F;
+    line.strength = hand.Between(0.65F, 1.0F);
     line.seed = hand.Word();
     AddScript(lines, line);
   }
   Field writing(sheet);
-  lines.Draw(sheet, writing, {.ragged = 1.8F, .raggedPeriod = 3.0F, .seed = seed + 41});
+  lines.Draw(
+      sheet, writing,
+      {.profile = StrokeProfile::kRound, .ragged = 2.2F, .raggedPeriod = 7.0F, .seed = seed + 41});
+  Blur(sheet, writing, 1.5F);
 
   const Field body = Painted(sheet, [&](Spot p) { return patch(p); });
+  // The stick skips on the board's tooth and lies thin where the hand was quick.
+  const Field tooth = Painted(sheet, [&](Spot p) { return grain(p); });
+  const Fbm pressed{90.0F, 3, 0.6F, seed + 22};
+  Repaint(sheet, writing, [&](Spot p) {
+    const float here = writing(p);
+    if (here <= 0.002F) return 0.0F;
+    const float hold = here * (1.0F + 0.7F * pressed(p)) + 0.9F * tooth(p) + 0.25F * body(p);
+    return here * SmoothRamp(0.05F, 0.85F, hold);
+  });
   Field chalk = Painted(sheet, [&](Spot p) {
     return 0.30F + 0.22F * veil(p) + 0.03F * body(p) + 0.75F * writing(p);
   });
@@ -124,7 +137,7 @@ Field Paint(const Sheet& sheet) {
     }
   });
   Field tone = Painted(sheet, [&](Spot p) {
-    const float g = grain(p);
+    const float g = tooth(p);
     // Chalk sits on the grain's tops: thin veils speckle, thick ones cover.
     const float amount = Clamp01(chalk(p));
     const float speckle = SmoothRamp(-0.9F, 0.9F, g + 2.6F * (amount - 0.42F));
