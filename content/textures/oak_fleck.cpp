@@ -44,19 +44,19 @@ Field Paint(const Sheet& sheet) {
   const Fbm silk{2.6F, 2, 0.7F, seed + 14};
   const Fbm wax{360.0F, 5, 0.55F, seed + 20};
   const Field dash = Painted(sheet, [&](Spot p) {
-    return SoftThreshold(pores(along(p), p.fy * 0.075F) + 0.22F * (0.5F - year(p)), 0.42F, 0.20F) *
+    return SoftThreshold(pores(along(p), p.fy * 0.075F) + 0.22F * (0.5F - year(p)), 0.53F, 0.22F) *
            (1.0F - 0.85F * fleck(p));
   });
   const Field height = Painted(sheet, [&](Spot p) {
-    return 0.30F * fleck(p) - 0.40F * dash(p) + 0.20F * streak(along(p), p.fy * 0.03F);
+    return 0.30F * fleck(p) - 0.26F * dash(p) + 0.12F * streak(along(p), p.fy * 0.03F);
   });
   const Field light = Relief(sheet, height, 0.20F);
   Field tone = Painted(sheet, [&](Spot p) {
     const float x = along(p);
-    float value = 0.52F - 0.20F * year(p) + 0.20F * streak(x, p.fy * 0.02F) + 0.15F * wax(p);
-    value = Mix(value, 0.84F + 0.12F * wax(p) + 0.12F * silk(p.fx * 0.12F, p.fy), 0.50F * fleck(p));
-    value -= 0.26F * dash(p);
-    return value + 0.13F * light(p);
+    float value = 0.50F - 0.13F * year(p) + 0.09F * streak(x, p.fy * 0.02F) + 0.15F * wax(p);
+    value = Mix(value, 0.84F + 0.12F * wax(p) + 0.12F * silk(p.fx * 0.12F, p.fy), 0.70F * fleck(p));
+    value -= 0.15F * dash(p);
+    return value + 0.09F * light(p);
   });
   StretchTo(sheet, tone, 0.004F, 0.996F);
   return tone;

@@ -46,8 +46,9 @@ Runs MakeRuns(const Sheet& sheet, std::uint32_t seed) {
         const StrokePoint drop[] = {{x, y - stretch, bead * 0.8F, 1.0F}, {x, y, bead, 1.0F}};
         runs.beads.Add(drop);
       }
-      if (dice.Chance(0.16F)) drift = dice.Around(0.0F, 4.0F);
-      drift *= 0.86F;
+      // It stops at what is in its way, goes aside to the next drop and on from there.
+      if (dice.Chance(0.20F)) drift = dice.Around(0.0F, 8.5F);
+      drift *= 0.80F;
       x += drift;
       y += 9.0F;
     }
@@ -59,64 +60,86 @@ Runs MakeRuns(const Sheet& sheet, std::uint32_t seed) {
   return runs;
 }
 
+constexpr float kNoMiddle = 9.0F;
+
+struct Drop {
+  float depth = 0.0F;  // pixels of water
+  float low = 0.0F;    // -1 at its top to 1 at its foot; kNoMiddle in a run
+  float right = 0.0F;  // -1..1
+};
+
 Field Paint(const Sheet& sheet) {
   const std::uint32_t seed = sheet.seed;
   const float height = static_cast<float>(sheet.height);
   const Runs runs = MakeRuns(sheet, seed + 1);
   Field swept(sheet);
-  runs.paths.Draw(sheet, swept, {.ragged = 2.0F, .raggedPeriod = 17.0F, .seed = seed + 2});
+  runs.paths.Draw(sheet, swept, {.ragged = 1.6F, .raggedPeriod = 17.0F, .seed = seed + 2});
   Blur(sheet, swept, 2.2F);
   Field water(sheet);
   runs.beads.Draw(
       sheet, water,
-      {.profile = StrokeProfile::kRound, .ragged = 1.2F, .raggedPeriod = 14.0F, .seed = seed + 3});
+      {.profile = StrokeProfile::kRound, .ragged = 1.2F, .raggedPeriod = 24.0F, .seed = seed + 3});
 
   // Drops are not round: each is drawn at a place moved by a slow noise.
-  const Warp odd{7.0F, {34.0F, 3, 0.5F, seed + 10}};
+  const Warp odd{8.0F, {64.0F, 1, 0.5F, seed + 10}};
   const Spots mist{9.0F, 0.62F, 1.2F, 3.6F, seed + 11};
   const Spots small{27.0F, 0.42F, 3.0F, 10.5F, seed + 12};
   const Spots large{92.0F, 0.26F, 11.0F, 27.0F, seed + 13};
   const Fbm shower{360.0F, 4, 0.55F, seed + 14};
-  // Depth of water, in pixels; a drop is a flat dome.
-  Field depth = Painted(sheet, [&](Spot p) {
+  const Survey<Drop> drops(sheet, [&](Spot p) {
     const Spot q = odd(p);
-    const auto dome = [](const Spots::Hit& hit) {
-      return hit.radius * Sqrt(Clamp01(1.0F - Square(1.0F - hit.depth))) *
-             (hit.depth > 0.0F ? 1.0F : 0.0F);
+    const auto drop = [](const Spots::Hit& hit) {
+      // A flat dome.
+      const float depth = hit.depth > 0.0F ? Sqrt(Clamp01(1.0F - Square(1.0F - hit.depth))) : 0.0F;
+      return Drop{hit.radius * depth, hit.dy, hit.dx};
     };
     const float many = shower(p);
+    const float swept01 = Min(1.0F, 1.3F * swept(p));
+    Drop best;
+    const auto offer = [&](Drop other, float share) {
+      other.depth *= share;
+      if (other.depth > best.depth) best = other;
+    };
     const Spots::Hit fine = mist(q);
-    float wet = Unit(fine.hash) < 0.55F + 1.2F * many ? dome(fine) : 0.0F;
+    if (Unit(fine.hash) < 0.55F + 1.2F * many) offer(drop(fine), 1.0F - swept01);
     const Spots::Hit mid = small(q);
-    if (Unit(mid.hash) < 0.62F + 1.1F * many) wet = Max(wet, dome(mid));
-    wet *= 1.0F - Min(1.0F, 1.3F * swept(p));
-    return Max(Max(wet, dome(large(q)) * (1.0F - swept(p))), 10.0F * water(p));
+    if (Unit(mid.hash) < 0.62F + 1.1F * many) offer(drop(mid), 1.0F - swept01);
+    offer(drop(large(q)), 1.0F);
+    if (10.0F * water(p) > best.depth) best = {10.0F * water(p), kNoMiddle, 0.0F};
+    return best;
   });
+  Field depth = Painted(sheet, [&](Spot p) { return drops(p).depth; });
   Soften(sheet, depth, 0.4F);
   const Fbm world{520.0F, 4, 0.5F, seed + 20};
   const Fbm film{90.0F, 4, 0.6F, seed + 21};
   Field tone = Painted(sheet, [&](Spot p) {
     // The street below is dark, the sky above bright; fog on the pane hides both.
     const float view = SmoothRamp(1.15F, -0.1F, p.fy / height) + 0.30F * world(p);
-    float value = 0.66F + 0.20F * (view - 0.5F) + 0.05F * film(p);
-    value = Mix(value, 0.44F + 0.40F * (view - 0.5F), 0.60F * swept(p));
-    const float there = depth(p);
+    float value = 0.56F + 0.34F * (view - 0.5F) + 0.05F * film(p);
+    value = Mix(value, 0.36F + 0.50F * (view - 0.5F), 0.75F * swept(p));
+    // Softened water reaches a hair beyond the drop it belongs to.
+    const float there = Min(depth(p), 2.0F * drops(p).depth);
     if (there > 0.05F) {
       const Slope slope = SlopeAt(depth, p.x, p.y);
       // Upper flanks (rising downwards) show the street, lower ones the sky.
       const float tilt = Clamp(0.62F * slope.y + 0.22F * slope.x, -1.0F, 1.0F);
       const float steep = Min(1.0F, 0.42F * Length(slope.x, slope.y));
-      float drop = 0.60F - 0.46F * tilt;
-      drop -= 0.40F * steep * steep;
+      const Drop& at = drops(p);
+      const float low =
+          at.low == kNoMiddle ? Clamp(-0.7F * slope.y, -1.0F, 1.0F) : at.low + 0.2F * at.right;
+      // The view stands on its head: street above, sky below, a bent skyline between.
+      const float skyline = low - 0.22F + 0.5F * Square(at.right);
+      float drop = 0.17F + 0.20F * (low + 1.0F) + 0.46F * SmoothRamp(-0.34F, 0.34F, skyline);
+      drop -= 0.24F * tilt + 0.34F * steep * steep;
       const float glint = SmoothRamp(0.35F, 0.75F, 0.55F * (slope.y + slope.x)) *
                           SmoothRamp(1.5F, 3.5F, there) *
                           SmoothRamp(1.7F, 0.9F, Length(slope.x, slope.y));
-      drop = Mix(drop, 1.05F, 0.8F * glint);
+      drop = Mix(drop, 1.10F, 0.9F * glint);
       value = Mix(value, drop, SmoothRamp(0.05F, 1.4F, there));
     }
     return value;
   });
-  Soften(sheet, tone, 0.3F);
+  Soften(sheet, tone, 0.4F);
   StretchTo(sheet, tone, 0.003F, 0.997F);
   return tone;
 }
