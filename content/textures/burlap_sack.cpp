@@ -72,7 +72,7 @@ Field Paint(const Sheet& sheet) {
   const Fbm dirt{300.0F, 5, 0.55F, seed + 4};
   Field tone = Painted(sheet, [&](Spot p) {
     const Weave::Place& at = places(p);
-    if (at.hole) return Mix(0.05F + 0.10F * (shade(p) + 0.4F), 0.50F, 0.7F * hair(p));
+    if (at.hole) return Mix(0.02F + 0.04F * (shade(p) + 0.4F), 0.40F, 0.6F * hair(p));
     const float dye = Unit(Hash(at.thread + 5)) - 0.5F;
     const float body = 0.46F + 0.26F * (height(p) - shade(p)) + 0.16F * at.height + 0.16F * dye +
                        0.10F * dirt(p) + 0.20F * light(p);
