@@ -47,6 +47,7 @@ Field Paint(const Sheet& sheet) {
   const float height = static_cast<float>(sheet.height);
   const Warp torn{26.0F, {70.0F, 4, 0.6F, seed + 1}};
   const Fbm lobes{300.0F, 5, 0.55F, seed + 2};
+  const Fbm reach{430.0F, 3, 0.5F, seed + 5};
   const Fbm islands{88.0F, 4, 0.55F, seed + 3};
   const Fbm fray{9.0F, 3, 0.65F, seed + 4};
   // 1 at the frame, falling inwards; the foot of a mirror suffers most.
@@ -55,7 +56,9 @@ Field Paint(const Sheet& sheet) {
     const float low = 1.0F - p.fy / height;
     const float side =
         Min(Min(left * 1.25F, (1.0F - left) * 1.5F), Min(low * 0.8F, (1.0F - low) * 1.5F));
-    return Exp(-side * 9.0F) + 0.55F * Exp(-3.4F * Length(left, low)) + 0.26F * lobes(p);
+    // Deep lobes: damp creeps far in at some places and hardly at others.
+    const float creep = Max(0.02F, side - 0.16F * (0.15F + reach(p)));
+    return Exp(-creep * 7.0F) + 0.55F * Exp(-3.0F * Length(left, low)) + 0.26F * lobes(p);
   });
   const Field loss = Painted(sheet, [&](Spot p) {
     const Spot q = torn(p);
@@ -100,7 +103,7 @@ Field Paint(const Sheet& sheet) {
     const float l = loss(p);
     const float speck = dust(p);
     const float patch = l > 0.5F ? back(p) : 0.0F;
-    float value = 0.985F + 0.05F * cloud(p) - 0.16F * SmoothRamp(0.05F, 0.5F, l);
+    float value = 0.985F + 0.05F * cloud(p) - 0.24F * SmoothRamp(-0.02F, 0.5F, l);
     value -= 0.04F * Max(0.0F, speck);
     value *= 1.0F - 0.75F * freckle(p);
     value *= 1.0F - 0.60F * worm(p);
@@ -117,7 +120,7 @@ Field Paint(const Sheet& sheet) {
     return Mix(value, 0.34F + 0.13F * patch + 0.06F * speck, 0.8F * bare);
   });
   Soften(sheet, tone, 0.40F);
-  StretchTo(sheet, tone, 0.003F, 0.62F);
+  StretchTo(sheet, tone, 0.003F, 0.70F);
   return tone;
 }
 
