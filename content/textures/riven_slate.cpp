@@ -7,6 +7,7 @@
 // through everything the same way.
 #include "builder/texture_recipe.h"
 #include "toolbox/cells.h"
+#include "toolbox/facets.h"
 #include "toolbox/filters.h"
 #include "toolbox/hash.h"
 #include "toolbox/maths.h"
@@ -25,11 +26,11 @@ float Terraced(float level, float sharp) {
 
 Field Paint(const Sheet& sheet) {
   const std::uint32_t seed = sheet.seed;
-  const Fbm lie{720.0F, 3, 0.5F, seed};
-  const Fbm shell{280.0F, 3, 0.45F, seed + 10};
-  const Fbm feather{34.0F, 4, 0.66F, seed + 20};
+  // Rock breaks along planes: the layers cut flat faces in lines, not in lobes.
+  const Facets lie{300.0F, 0.78F, seed};
+  const Facets shell{120.0F, 0.78F, seed + 10};
+  const Fbm feather{34.0F, 3, 0.58F, seed + 20};
   const Fbm grain{5.0F, 4, 0.72F, seed + 30};
-  const Fbm swell{160.0F, 3, 0.5F, seed + 34};
   const Fbm tint{520.0F, 5, 0.55F, seed + 38};
   const Cells chips{150.0F, 1.0F, seed + 44};
   const Cells slivers{58.0F, 1.0F, seed + 45};
@@ -49,17 +50,20 @@ Field Paint(const Sheet& sheet) {
     const float y = q.fy + 5.0F * nick;
     const float chip = chips(x, y + 0.25F * q.fx).id - 0.5F;
     const float sliver = slivers(x, y + 0.10F * q.fx).id - 0.5F;
-    return 4.0F + 2.6F * lie(q.fx * 0.55F, q.fy) + 1.1F * shell(q.fx * 0.45F, q.fy) + 1.05F * chip +
-           0.42F * sliver + 0.10F * nick;
+    return 4.0F + 1.75F * lie(x * 1.15F, y) + 0.60F * shell(x, y) + 1.05F * chip + 0.42F * sliver +
+           0.13F * nick;
   });
-  const Field height = Painted(sheet, [&](Spot p) {
-    const Spot q = turned(p);
+  Field height = Painted(sheet, [&](Spot p) {
     const float broad = Terraced(level(p), 0.035F);
-    const float thin = Terraced(level(p) * 3.7F + 0.4F, 0.04F);
-    const float where = SmoothRamp(-0.1F, 0.5F, swell(q.fx * 0.6F, q.fy));
-    return 3.4F * broad + 0.45F * thin * where + 0.22F * swell(q.fx * 0.5F, q.fy) +
-           0.34F * grit(p) + 0.16F * feather(q.fx * 0.35F, q.fy);
+    // Some layers split clean, others splintered all over.
+    const int layer = FloorInt(level(p) + 0.5F);
+    const float within = level(p) + 0.5F - static_cast<float>(layer);
+    const float splinters = 0.15F + 0.75F * Unit(HashAt(layer, 9, seed));
+    const float thin = Terraced(within * 3.7F, 0.04F);
+    return 3.4F * broad + splinters * thin + 0.34F * grit(p);
   });
+  // A step is crumbled by the width of a grain.
+  Blur(sheet, height, 1.0F);
   const Field light = Relief(sheet, height, 0.26F);
   Field around = height;
   Blur(sheet, around, 14.0F);
