@@ -57,8 +57,8 @@ Field Paint(const Sheet& sheet) {
   Field tone = Painted(sheet, [&](Spot p) {
     return 0.70F + 0.26F * (primed(p) - low(p)) + 0.34F * light(p) + 0.07F * load(p);
   });
-  StretchTo(sheet, tone, 0.003F, 0.975F);
-  Repaint(sheet, tone, [&](Spot p) { return Levels{.gamma = 1.95F}(Clamp01(tone(p))); });
+  StretchTo(sheet, tone, 0.003F, 0.985F);
+  Repaint(sheet, tone, [&](Spot p) { return Levels{.gamma = 1.6F}(Clamp01(tone(p))); });
   return tone;
 }
 

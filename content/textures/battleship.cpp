@@ -63,7 +63,7 @@ struct RivetSpot {
 // the flank that people expect in the light is the broad one.
 float Dome(const RivetSpot& rivet) {
   if (rivet.distance >= kRivet) return 0.0F;
-  constexpr float kOffX = 3.0F, kOffY = 6.0F;
+  constexpr float kOffX = 4.0F, kOffY = 8.0F;
   // The circle through this place, of those that shrink from the rim to the crown.
   const float px = rivet.dx - kOffX;
   const float py = rivet.dy - kOffY;
@@ -71,15 +71,6 @@ float Dome(const RivetSpot& rivet) {
   const float a = kRivet * kRivet - kOffX * kOffX - kOffY * kOffY;
   const float s = Min(1.0F, (b + Sqrt(b * b + a * (px * px + py * py))) / a);
   return 1.0F - s * s;
-}
-
-// Enamel shines on the flank above, 0..1: without a light side a dark head is
-// taken for a hole.
-float LitFlank(const RivetSpot& rivet) {
-  if (rivet.distance >= kRivet) return 0.0F;
-  const float d = rivet.distance / kRivet;
-  const float up = -(0.45F * rivet.dx + 0.89F * rivet.dy) / kRivet;
-  return SmoothRamp(0.05F, 0.75F, up) * SmoothRamp(1.0F, 0.80F, d);
 }
 
 // Laps are riveted twice, above and below the edge of the upper plate.
@@ -181,7 +172,7 @@ Field Paint(const Sheet& sheet) {
     h += 0.12F * SmoothRamp(60.0F, 0.0F, at.toFoot) - 0.12F * SmoothRamp(40.0F, 0.0F, at.v);
     const float dent = dents(pushed(p)).depth;
     h -= 0.16F * dent * dent * (3.0F - 2.0F * dent);
-    h += 0.27F * Dome(rivet) - 0.30F * LitFlank(rivet);
+    h += 0.36F * Dome(rivet);
     h += 0.26F * Weld(at, at.plate);
 
     const float coats = SoftThreshold(w, 0.40F, 0.05F) + SoftThreshold(w, 0.52F, 0.05F) +

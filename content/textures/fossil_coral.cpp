@@ -1,4 +1,4 @@
-// Fossil_Coral: a beach stone of colony coral, polished by the surf. Six-sided
+// Fossil_Coral: a beach stone of colony coral, polished by the surf. Many-sided
 // cups lie wall to wall, thin ribs run from each wall to a dark eye.
 //
 // What makes it read as that: cups of unequal size and shape that share their
