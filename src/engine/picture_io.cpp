@@ -4,26 +4,18 @@
 #include <cstring>
 #include <vector>
 
+#include "imaging/nearest_places.h"
+
 namespace tarnwick {
 namespace {
 
 // The converter counts in 16 bits.
 constexpr int kMaxConverted = 32767;
 
-// Document rows and columns below the rendered ones.
-std::vector<int> SampleAxis(int origin, int count, float scale, int documentSize) {
-  std::vector<int> axis(static_cast<std::size_t>(count));
-  for (int i = 0; i < count; ++i) {
-    const auto at = static_cast<int>(static_cast<float>(origin + i) * scale);
-    axis[static_cast<std::size_t>(i)] = std::clamp(at, 0, documentSize - 1);
-  }
-  return axis;
-}
-
-void FetchRgbRow(const std::uint8_t* in, int planes, const std::vector<int>& columns,
+void FetchRgbRow(const std::uint8_t* in, int planes, const std::vector<std::ptrdiff_t>& columns,
                  std::uint8_t* out) {
-  for (const int column : columns) {
-    const std::uint8_t* const pixel = in + static_cast<std::ptrdiff_t>(column) * planes;
+  for (const std::ptrdiff_t column : columns) {
+    const std::uint8_t* const pixel = in + column * planes;
     // One plane stands for grey: it serves all colours.
     const int next = planes >= 3 ? 1 : 0;
     out[0] = pixel[0];
@@ -35,8 +27,9 @@ void FetchRgbRow(const std::uint8_t* in, int planes, const std::vector<int>& col
 }
 
 // `work` is one row of 4-byte pixels.
-bool FetchCmykRow(const PictureJob& job, const std::uint8_t* in, const std::vector<int>& columns,
-                  std::vector<std::uint8_t>& work, std::uint8_t* out) {
+bool FetchCmykRow(const PictureJob& job, const std::uint8_t* in,
+                  const std::vector<std::ptrdiff_t>& columns, std::vector<std::uint8_t>& work,
+                  std::uint8_t* out) {
   const auto count = static_cast<int>(columns.size());
   for (int start = 0; start < count; start += kMaxConverted) {
     const int part = std::min(count - start, kMaxConverted);
@@ -106,10 +99,10 @@ ApplyOutcome FetchSource(RenderState& state, const PictureJob& job) {
     return ApplyOutcome::kOutOfMemory;
   }
   if (state.isCmyk && job.converter == nullptr) return ApplyOutcome::kNoConverter;
-  const std::vector<int> columns =
-      SampleAxis(state.viewOriginX, state.renderWidth, state.viewScale, job.width);
-  const std::vector<int> rows =
-      SampleAxis(state.viewOriginY, state.renderHeight, state.viewScale, job.height);
+  const std::vector<std::ptrdiff_t> columns =
+      NearestPlaces(state.viewOriginX, state.renderWidth, state.viewScale, job.width);
+  const std::vector<std::ptrdiff_t> rows =
+      NearestPlaces(state.viewOriginY, state.renderHeight, state.viewScale, job.height);
   const auto inRow = [&](int y) {
     return job.in + rows[static_cast<std::size_t>(y)] * job.inRowBytes;
   };
@@ -135,16 +128,16 @@ ApplyOutcome FetchSource(RenderState& state, const PictureJob& job) {
 }
 
 void CopyOriginal(const RenderState& state, const PictureJob& job) {
-  const std::vector<int> columns =
-      SampleAxis(state.viewOriginX, state.renderWidth, state.viewScale, job.width);
-  const std::vector<int> rows =
-      SampleAxis(state.viewOriginY, state.renderHeight, state.viewScale, job.height);
+  const std::vector<std::ptrdiff_t> columns =
+      NearestPlaces(state.viewOriginX, state.renderWidth, state.viewScale, job.width);
+  const std::vector<std::ptrdiff_t> rows =
+      NearestPlaces(state.viewOriginY, state.renderHeight, state.viewScale, job.height);
   const auto bytes = static_cast<std::size_t>(std::min(job.planes, 4));
   for (int y = 0; y < state.renderHeight; ++y) {
     const std::uint8_t* const in = job.in + rows[static_cast<std::size_t>(y)] * job.inRowBytes;
     std::uint8_t* out = job.out + y * job.outRowBytes;
-    for (const int column : columns) {
-      std::memcpy(out, in + static_cast<std::ptrdiff_t>(column) * job.planes, bytes);
+    for (const std::ptrdiff_t column : columns) {
+      std::memcpy(out, in + column * job.planes, bytes);
       out += job.planes;
     }
   }

@@ -2,11 +2,11 @@
 
 #include <algorithm>
 #include <cstring>
-#include <vector>
 
 #include "engine/picture_io.h"
 #include "filter/host_rects.h"
 #include "filter/picture_job.h"
+#include "imaging/nearest_places.h"
 
 namespace tarnwick {
 namespace {
@@ -40,16 +40,6 @@ bool BuildDocumentPixels(FilterGlobals& g, const PictureJob& job) {
     }
   }
   return true;
-}
-
-std::vector<std::ptrdiff_t> Sampled(std::int32_t origin, std::int32_t count, float scale,
-                                    std::int32_t size) {
-  std::vector<std::ptrdiff_t> places(static_cast<std::size_t>(std::max(count, 0)));
-  for (std::int32_t i = 0; i < count; ++i) {
-    const auto place = static_cast<std::int32_t>(static_cast<float>(origin + i) * scale);
-    places[static_cast<std::size_t>(i)] = std::clamp(place, 0, size - 1);
-  }
-  return places;
 }
 
 // Where the samples of plane 0 to 3 lie; a plane that is missing is the first.
@@ -108,8 +98,8 @@ void CopyDocumentToPixels(FilterGlobals& g, bool toOutput) {
     height = std::min(height, job.height);
   }
   if (to == nullptr) return;
-  const auto columns = Sampled(state.viewOriginX, width, state.viewScale, copy.Width());
-  const auto rows = Sampled(state.viewOriginY, height, state.viewScale, copy.Height());
+  const auto columns = NearestPlaces(state.viewOriginX, width, state.viewScale, copy.Width());
+  const auto rows = NearestPlaces(state.viewOriginY, height, state.viewScale, copy.Height());
   const CopyPlanes from(copy);
   const bool hasFourth = record.planes >= 4;
   const int colors = toOutput ? std::min<int>(3, record.planes) : 3;

@@ -3,21 +3,13 @@
 #include <algorithm>
 #include <cstring>
 
+#include "imaging/nearest_places.h"
+
 namespace tarnwick {
 namespace {
 
 constexpr int kColors = 3;
 constexpr int kGridSquare = 7;
-
-// Where the window's columns or rows lie in an image of `size`.
-std::vector<std::ptrdiff_t> Sampled(int origin, int count, float scale, int size) {
-  std::vector<std::ptrdiff_t> places;
-  for (int i = 0; i < count; ++i) {
-    const auto place = static_cast<int>(static_cast<float>(origin + i) * scale);
-    places.push_back(std::clamp(place, 0, size - 1));
-  }
-  return places;
-}
 
 std::uint8_t Mixed(int over, int under, float share) {
   return static_cast<std::uint8_t>(static_cast<float>(over) * share +
@@ -33,8 +25,8 @@ int GridAt(int x, int y) {
 std::vector<std::uint8_t> BuildBackdrop(const RasterImage& below, const PaneWindow& window) {
   const std::uint8_t* const from = below.PeekInterior();
   if (from == nullptr || window.width < 1 || window.height < 1) return {};
-  const auto columns = Sampled(window.originX, window.width, window.scale, below.Width());
-  const auto rows = Sampled(window.originY, window.height, window.scale, below.Height());
+  const auto columns = NearestPlaces(window.originX, window.width, window.scale, below.Width());
+  const auto rows = NearestPlaces(window.originY, window.height, window.scale, below.Height());
   const std::uint8_t* planes[4];
   for (int i = 0; i < 4; ++i) {
     planes[i] =
