@@ -57,8 +57,7 @@ bool ReadChannelChain(FilterGlobals& g, const host::ReadChannelDesc* channels, R
   const VRect rect = {origin.v, origin.h, static_cast<std::int32_t>(bottom),
                       static_cast<std::int32_t>(right)};
   const ChannelPortsSuite suite(g.gBasicSuite, host::kPSChannelPortsSuite, 2);
-  int planesLeft = image.planeCount;
-  for (; channels != nullptr && planesLeft > 0; channels = channels->next, --planesLeft) {
+  for (int i = 0; channels != nullptr && i < image.planeCount; ++i, channels = channels->next) {
     // A host may read only where the layer has something.
     std::memset(plane, 0, image.PlaneBytes());
     const host::PixelMemoryDesc to = {plane, image.RowBits(), image.SampleBits(), 0,

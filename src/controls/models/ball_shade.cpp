@@ -51,10 +51,12 @@ std::vector<std::uint8_t> ShadedBall(int width, int height, const BallLight& lig
   const auto radius = static_cast<float>(RadiusOf(width, height));
   // Over so much of the height the rim fades.
   constexpr float kRim = 11.0F;
+  const int cx = width / 2;
+  const int cy = height / 2;
   for (int y = 0; y < height; ++y) {
     for (int x = 0; x < width; ++x) {
-      const auto px = static_cast<float>(x - width / 2);
-      const auto py = static_cast<float>(y - height / 2);
+      const auto px = static_cast<float>(x - cx);
+      const auto py = static_cast<float>(y - cy);
       const float square = radius * radius - px * px - py * py;
       const float pz = square > 0 ? std::sqrt(square) : 0.0F;
       const float share = std::min(pz / kRim, 1.0F);
