@@ -72,10 +72,6 @@ LRESULT HandleSwatch(ColorSwatch& swatch, UINT message, WPARAM wParam, LPARAM lP
       swatch.enabled = wParam != 0 ? 1 : 0;
       RedrawControl(swatch.window);
       return 0;
-    case WM_SIZE:
-      swatch.width = LOWORD(lParam);
-      swatch.height = HIWORD(lParam);
-      break;
     case WM_ERASEBKGND:
       return 1;
     case WM_PAINT:

@@ -47,10 +47,6 @@ LRESULT HandleButton(ControlButton& record, UINT message, WPARAM wParam, LPARAM 
       if (record.enabled == 0) break;
       Track(record, [](ButtonTracking& t) { return t.Release(); });
       return 0;
-    case WM_SIZE:
-      record.width = LOWORD(lParam);
-      record.height = HIWORD(lParam);
-      break;
     case WM_ENABLE:
       record.enabled = wParam != 0 ? 1 : 0;
       if (record.enabled == 0) record.state = kIdle;

@@ -35,6 +35,10 @@ LRESULT CALLBACK ControlProc(HWND window, UINT message, WPARAM wParam, LPARAM lP
     delete record;
     return DefWindowProcA(window, message, wParam, lParam);
   }
+  if (message == WM_SIZE) {
+    record->width = LOWORD(lParam);
+    record->height = HIWORD(lParam);
+  }
   return Handle(*record, message, wParam, lParam);
 }
 

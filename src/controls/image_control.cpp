@@ -15,10 +15,6 @@ LRESULT HandleImage(ImageControl& record, UINT message, WPARAM wParam, LPARAM lP
       break;
     case WM_COMMAND:
       return SendMessageA(GetParent(record.window), message, wParam, lParam);
-    case WM_SIZE:
-      record.width = LOWORD(lParam);
-      record.height = HIWORD(lParam);
-      break;
     case WM_ERASEBKGND:
       return 1;
     case WM_PAINT: {

@@ -92,10 +92,6 @@ LRESULT HandleLabel(TContaner& record, UINT message, WPARAM wParam, LPARAM lPara
     case WM_COMMAND:
       PostMessageA(GetParent(record.window), message, wParam, lParam);
       return 0;
-    case WM_SIZE:
-      record.width = LOWORD(lParam);
-      record.height = HIWORD(lParam);
-      break;
     case WM_ENABLE:
       // What painting has switched off comes back with the window.
       if (wParam != 0) record.enabled = 1;

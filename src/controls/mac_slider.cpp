@@ -108,8 +108,6 @@ LRESULT TMacSlider::WindowProc(HWND target, UINT message, WPARAM wParam, LPARAM 
       EnableAll(*this, wParam != 0);
       return 0;
     case WM_SIZE:
-      width = LOWORD(lParam);
-      height = HIWORD(lParam);
       if (trackbar != nullptr) MoveWindow(trackbar, 0, 0, width, height, TRUE);
       return 0;
     case WM_ERASEBKGND:

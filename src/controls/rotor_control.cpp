@@ -137,10 +137,6 @@ LRESULT HandleRotor(Rotor& rotor, UINT message, WPARAM wParam, LPARAM lParam) {
       rotor.enabled = wParam != 0 ? 1 : 0;
       RedrawControl(rotor.window);
       return 0;
-    case WM_SIZE:
-      rotor.width = LOWORD(lParam);
-      rotor.height = HIWORD(lParam);
-      break;
     case WM_ERASEBKGND:
       return 1;
     case WM_PAINT:
