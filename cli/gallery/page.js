@@ -30,7 +30,9 @@
     const button = byId("theme");
     button.setAttribute("aria-label", label + ": change");
     button.title = label;
-    button.innerHTML = `<svg viewBox="0 0 24 24" aria-hidden="true"><path d="${path}"/></svg>`;
+    // The drawing stays the same element: a press that meets a change of the
+    // system's colours would otherwise lose what it began on, and not click.
+    button.querySelector("path").setAttribute("d", path);
   }
   byId("theme").addEventListener("click", () => {
     const names = Object.keys(themes);
