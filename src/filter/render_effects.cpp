@@ -8,6 +8,7 @@
 #include "engine/render_layers.h"
 #include "engine/render_pipeline.h"
 #include "environment/platform_calls.h"
+#include "filter/box_alerts.h"
 #include "filter/host_colors.h"
 #include "filter/host_rects.h"
 #include "filter/layer_passes.h"
@@ -27,16 +28,6 @@ class HostProgress : public ProgressSink {
 
  private:
   host::ProgressProc progress_;
-};
-
-class BoxAlerts : public TextureAlerts {
- public:
-  explicit BoxAlerts(void* owner) : owner_(owner) {}
-  void TextureAlert(const std::string& text) override { ShowAlertBox(text, owner_); }
-  void TextureFault(const std::string& text) override { WriteComplaint(text); }
-
- private:
-  void* owner_;
 };
 
 bool IsSupported(std::int16_t mode) {
