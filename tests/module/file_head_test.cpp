@@ -61,7 +61,7 @@ TEST(ModuleFile, HasItsResources) {
   for (const PeResource& resource : BuiltModule().resources) types.push_back(resource.type);
   std::ranges::sort(types);
   // 5: the box about it; 16: the version. Windows asks for types in capitals.
-  EXPECT_EQ(types, (std::vector<std::string>{"#16", "#5", "AETE", "PIPL"}));
+  EXPECT_EQ(types, (std::vector<std::string>{"#16", "#5", "AETE", "PIPL", "WAVE"}));
 }
 
 }  // namespace
