@@ -1,5 +1,6 @@
 #include "controls/image_button.h"
 
+#include "controls/back_buffer.h"
 #include "controls/control_window.h"
 #include "controls/models/pointer_tracking.h"
 
@@ -34,6 +35,20 @@ void OnMove(ImageButtonState& state, HWND button, LPARAM lParam) {
   Show(button, ImageOf(state, true, IsChecked(button), false));
 }
 
+// The system greys a disabled button's bitmap until nothing of it is left but its
+// outline; ours is grey by itself and goes on top, where the system has put it.
+void PaintDisabled(const ImageButtonState& state, HWND button) {
+  const HBITMAP bitmap = ImageOf(state, false, IsChecked(button), false);
+  BITMAP size{};
+  if (bitmap == nullptr || GetObjectA(bitmap, sizeof size, &size) == 0) return;
+  RECT client{};
+  GetClientRect(button, &client);
+  const HDC dc = GetDC(button);
+  DrawBitmap(dc, bitmap, (client.right - size.bmWidth) / 2, (client.bottom - size.bmHeight) / 2,
+             size.bmWidth, size.bmHeight, 0, 0);
+  ReleaseDC(button, dc);
+}
+
 LRESULT CALLBACK ImageButtonProc(HWND button, UINT message, WPARAM wParam, LPARAM lParam) {
   auto* const state = reinterpret_cast<ImageButtonState*>(GetWindowLongPtrA(button, GWLP_USERDATA));
   if (state == nullptr) return DefWindowProcA(button, message, wParam, lParam);
@@ -61,7 +76,11 @@ LRESULT CALLBACK ImageButtonProc(HWND button, UINT message, WPARAM wParam, LPARA
     default:
       break;
   }
-  return CallWindowProcA(state->previousProc, button, message, wParam, lParam);
+  const LRESULT result = CallWindowProcA(state->previousProc, button, message, wParam, lParam);
+  if (message == WM_PAINT && state->disabledBitmap != nullptr && IsWindowEnabled(button) == FALSE) {
+    PaintDisabled(*state, button);
+  }
+  return result;
 }
 
 }  // namespace

@@ -188,6 +188,9 @@ TEST(ImageButton, HasAPictureForEachState) {
   EXPECT_EQ(shown(), normal);
   EnableWindow(button, FALSE);
   EXPECT_EQ(shown(), disabled);
+  // In the middle, and not greyed once more.
+  EXPECT_EQ(ControlPage::PixelOf(button, 10, 5), kBlue);
+  EXPECT_EQ(ControlPage::PixelOf(button, 19, 14), kBlue);
   EnableWindow(button, TRUE);
   EXPECT_EQ(shown(), normal);
   SendMessageA(button, BM_SETCHECK, BST_CHECKED, 0);
