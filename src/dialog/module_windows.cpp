@@ -1,12 +1,13 @@
 #include "dialog/module_windows.h"
 
 #include "dialog/about_box.h"
+#include "dialog/main_dialog.h"
 #include "environment/platform_calls.h"
 
 namespace tarnwick {
 
-bool ModuleWindows::ShowMainDialog(FilterGlobals&) {
-  return true;
+bool ModuleWindows::ShowMainDialog(FilterGlobals& g) {
+  return RunMainDialog(g);
 }
 
 void ModuleWindows::ShowAboutBox(FilterGlobals& g) {

@@ -1,6 +1,7 @@
 // What the module shows to the outside; TarnikStudi.def gives the plain names.
 #include <windows.h>
 
+#include "dialog/main_dialog.h"
 #include "dialog/module_windows.h"
 #include "filter/plugin_main.h"
 
@@ -16,8 +17,8 @@ extern "C" void PluginMain(std::int16_t selector, void* record, std::intptr_t* d
   tarnwick::RunSelector(selector, record, data, result);
 }
 
-// The procedure of the main dialog: Windows calls it, found by name. It leaves all
-// messages to the system's own handling.
-extern "C" INT_PTR CALLBACK DissolveProc(HWND, UINT, WPARAM, LPARAM) {
-  return FALSE;
+// The procedure of the main dialog, found by name too. Answers for the dialog that is
+// open; without one it leaves all messages to the system's own handling.
+extern "C" INT_PTR CALLBACK DissolveProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  return tarnwick::MainDialogProc(window, message, wParam, lParam);
 }

@@ -1,6 +1,9 @@
 // Numbers of dialogs and of what is in them; read by the resource compiler too.
 #pragma once
 
+// The main dialog is found by name.
+#define TARNWICK_MAIN_DIALOG "DISSOLVEDIALOG"
+
 #define TARNWICK_ABOUT_BOX 152
 #define TARNWICK_ABOUT_NAME 1500
 #define TARNWICK_ABOUT_VERSION 1501

@@ -1,0 +1,130 @@
+#pragma once
+#include <windows.h>
+
+#include <array>
+#include <exception>
+#include <memory>
+
+#include "dialog/bitmap_set.h"
+#include "dialog/help_viewer.h"
+#include "dialog/models/dialog_layout.h"
+#include "dialog/models/effect_views.h"
+#include "dialog/preview/live_preview.h"
+#include "dialog/preview_pane.h"
+#include "dialog/shadow_strips.h"
+#include "dialog/zoom_buttons.h"
+#include "filter/filter_globals.h"
+
+namespace tarnwick {
+
+// The module's modal window: a header, the tab control with its pages, the preview
+// pane, and OK, Cancel and zoom below it. There is one at a time, on the host's
+// thread. It works on the settings themselves; Cancel puts back what it found.
+class MainDialog {
+ public:
+  // `g` has its settings locked as long as this lives.
+  explicit MainDialog(FilterGlobals& g);
+  MainDialog(const MainDialog&) = delete;
+  MainDialog& operator=(const MainDialog&) = delete;
+
+  // Opens the window over `owner` and returns what it ended with: IDOK or IDCANCEL.
+  // Throws what a message has thrown, since nothing may pass through the system.
+  INT_PTR Run(HINSTANCE instance, HWND owner);
+
+  INT_PTR Answer(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+  // Renders the current view and shows it at once.
+  void RefreshPreview();
+  // Takes a snapshot of the settings unless one is held back, then refreshes.
+  void SettingsChanged();
+  // While a drawer is open nothing else of the dialog can be used.
+  void SetBusy(bool isBusy);
+
+ private:
+  // The bar under the pane as the render's progress.
+  class Bar : public ProgressSink {
+   public:
+    void Report(int done, int total) override;
+    HWND window = nullptr;
+  };
+
+  INT_PTR Dispatch(UINT message, WPARAM wParam, LPARAM lParam);
+
+  // main_dialog_start.cpp
+  void Start();
+  void Finish();
+  void FindFrame();
+  void MakeTabs();
+  void MakeOptions();
+  void ShowOptions();
+  void EnableOptions();
+  void SkinHeader();
+  void AddTips();
+  void OpenPreview();
+  void PutWindow();
+
+  // main_dialog_place.cpp
+  void Place();
+  void Resized();
+  INT_PTR LimitTrackSize(LPARAM info) const;
+
+  // main_dialog_paint.cpp
+  void Paint();
+  INT_PTR Erase(HDC dc);
+  INT_PTR ColorStatic(HDC dc, HWND control) const;
+
+  // main_dialog_commands.cpp
+  INT_PTR Command(WPARAM wParam, LPARAM lParam);
+  void Ok(WORD notification);
+  void Cancel();
+  void Zoom(int command);
+  void PanEnded();
+  void MoveOffset(int dx, int dy);
+  void ClickLabel(std::size_t option);
+  void ClickBox();
+  INT_PTR SystemCommand(WPARAM command);
+  void HotKey(WPARAM key);
+  void SelectTab();
+
+  [[nodiscard]] HWND Item(int id) const { return GetDlgItem(window_, id); }
+  [[nodiscard]] PaneSize PaneNow() const;
+  void SetZoomButtons(ZoomButtons buttons);
+  void PrintPercentage();
+  void TakePan();
+  void ShowPaneImage();
+
+  FilterGlobals& g_;
+  HINSTANCE instance_ = nullptr;
+  HWND window_ = nullptr;
+  std::exception_ptr fault_;
+
+  int screenDpi_ = 96;
+  float dpiFactor_ = 1;
+  DialogFrame frame_;
+  DialogLayout layout_;
+
+  EffectSettings cancelSnapshot_;
+  EffectSettings lastUsedSnapshot_;
+  EffectViews views_;
+
+  Bar bar_;
+  std::unique_ptr<LivePreview> preview_;
+  std::unique_ptr<HelpViewer> help_;
+  TPreviewContaner* pane_ = nullptr;  // its window's
+  BitmapSet bitmaps_;
+  ShadowStrips strips_;
+  ZoomButtonSkins zoomSkins_;
+  HWND tabs_ = nullptr;
+  std::array<TContaner*, 4> optionLabels_{};  // their windows', null where there is none
+  HCURSOR openHand_ = nullptr;
+  HCURSOR closedHand_ = nullptr;
+};
+
+// The dialog procedure: answers for the one dialog there is.
+INT_PTR CALLBACK MainDialogProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+
+// Makes what all controls share, registers their classes, runs the dialog over `owner`
+// and writes the ini file. True when it ended with OK.
+[[nodiscard]] bool RunMainDialog(FilterGlobals& g);
+
+}  // namespace tarnwick
