@@ -21,6 +21,17 @@ bool IsAboutBox(HWND box) {
   return std::strncmp(caption, kAboutCaption, sizeof kAboutCaption - 1) == 0;
 }
 
+int& DialogAnswer() {
+  static int command = IDOK;
+  return command;
+}
+
+bool IsModuleDialog(HWND box) {
+  char caption[32] = {};
+  GetWindowTextA(box, caption, sizeof caption);
+  return std::strcmp(caption, "Tarnwick Studio") == 0 && GetDlgItem(box, IDCANCEL) != nullptr;
+}
+
 // The static control of a message box that holds its text.
 constexpr int kBoxText = 0xFFFF;
 
@@ -31,7 +42,11 @@ LRESULT CALLBACK OnActivation(int code, WPARAM wParam, LPARAM lParam) {
     GetClassNameA(box, className, sizeof className);
     const HWND label = GetDlgItem(box, kBoxText);
     const bool isDialog = std::strcmp(className, "#32770") == 0 && WatchedLog() != nullptr;
-    if (isDialog && IsAboutBox(box)) {
+    if (isDialog && IsModuleDialog(box)) {
+      ++WatchedLog()->dialogsShown;
+      if (DialogAnswer() != 0)
+        PostMessageA(box, WM_COMMAND, static_cast<WPARAM>(DialogAnswer()), 0);
+    } else if (isDialog && IsAboutBox(box)) {
       ++WatchedLog()->aboutsShown;
       PostMessageA(box, WM_COMMAND, IDOK, 0);
     } else if (isDialog && label != nullptr) {
@@ -51,7 +66,12 @@ BoxWatcher::BoxWatcher(HostLog& log)
   WatchedLog() = &log;
 }
 
+void BoxWatcher::AnswerDialog(int command) {
+  DialogAnswer() = command;
+}
+
 BoxWatcher::~BoxWatcher() {
+  DialogAnswer() = IDOK;
   UnhookWindowsHookEx(static_cast<HHOOK>(hook_));
   WatchedLog() = nullptr;
 }

@@ -176,8 +176,14 @@ void Restart(ScenarioRun& run, Words& words) {
   run.RestartHost();
 }
 
-// dialog ok | cancel [FIELD VALUE ...]; dialog none
+// dialog ok | cancel [FIELD VALUE ...]; dialog none: of the one that stands in.
+// dialog by-hand: the module's own, which waits for its user.
 void Dialog(ScenarioRun& run, Words& words) {
+  if (words.Accept("by-hand")) {
+    run.dialogIsByHand = run.Host().module->AnswerOwnDialog(ModuleEntry::OwnDialog::kByHand);
+    run.isSkipped = !run.dialogIsByHand;
+    return;
+  }
   if (!run.Host().module->TakesStandInDialog()) {
     run.isSkipped = true;
     return;

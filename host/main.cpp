@@ -1,13 +1,15 @@
 // tarnwick-host: runs scenarios against the filter.
 //
-//   tarnwick-host [--data FOLDER] [--lists FOLDER] [--module FILE] FILE...
+//   tarnwick-host [--data FOLDER] [--lists FOLDER] [--module FILE] [--keep FOLDER] FILE...
 //
+// --keep: where the one scenario's module and its files lie, and stay.
 // Exit code 0: all of them show what they say; 1: not; 2: wrong usage.
 #include <cstdio>
 #include <exception>
 #include <string>
 #include <vector>
 
+#include "host/gui_growth.h"
 #include "host/scenario_run.h"
 
 namespace {
@@ -45,13 +47,15 @@ int RunFile(const std::string& file, const ScenarioPaths& paths, int& count) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  ScenarioPaths paths{"tests/data", "tests/filter", "TarnikStudi.8bf"};
+  BecomeScreenAware();
+  ScenarioPaths paths{"tests/data", "tests/filter", "TarnikStudi.8bf", ""};
   std::vector<std::string> files;
   for (int i = 1; i < argc; ++i) {
     const std::string word = argv[i];
     std::string* const option = word == "--data"     ? &paths.dataFolder
                                 : word == "--lists"  ? &paths.listFolder
                                 : word == "--module" ? &paths.builtModule
+                                : word == "--keep"   ? &paths.keptFolder
                                                      : nullptr;
     if (option == nullptr) {
       files.push_back(word);
@@ -60,7 +64,9 @@ int main(int argc, char** argv) {
     }
   }
   if (files.empty()) {
-    std::printf("usage: tarnwick-host [--data FOLDER] [--lists FOLDER] [--module FILE] FILE...\n");
+    std::printf(
+        "usage: tarnwick-host [--data FOLDER] [--lists FOLDER] [--module FILE] [--keep FOLDER] "
+        "FILE...\n");
     return 2;
   }
   int count = 0;

@@ -59,6 +59,10 @@ class ModuleEntry {
   };
   virtual void SetDialog(StandInDialog* dialog) = 0;
 
+  // What becomes of the module's own dialog when it opens. False: it has none.
+  enum class OwnDialog : std::uint8_t { kOk, kCancel, kByHand };
+  virtual bool AnswerOwnDialog(OwnDialog answer) = 0;
+
   // Blocks of pages that the module has taken and not given back, apart from
   // those that it keeps on purpose for a later pass.
   [[nodiscard]] virtual bool CountsPages() const = 0;

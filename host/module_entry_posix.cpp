@@ -53,6 +53,8 @@ class LinkedModule : public ModuleEntry, FilterWindows {
     SetFilterWindows(dialog_ != nullptr ? this : nullptr);
   }
 
+  bool AnswerOwnDialog(OwnDialog) override { return false; }
+
   [[nodiscard]] bool CountsPages() const override { return true; }
   [[nodiscard]] std::size_t PagesHeld() const override {
     // A wrong way of giving back counts as not given back.

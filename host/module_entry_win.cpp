@@ -48,6 +48,12 @@ class LoadedModule : public ModuleEntry {
   // Dialog and pages are the module's own.
   [[nodiscard]] bool TakesStandInDialog() const override { return false; }
   void SetDialog(StandInDialog*) override {}
+  bool AnswerOwnDialog(OwnDialog answer) override {
+    watcher_.AnswerDialog(answer == OwnDialog::kOk       ? IDOK
+                          : answer == OwnDialog::kCancel ? IDCANCEL
+                                                         : 0);
+    return true;
+  }
   [[nodiscard]] bool CountsPages() const override { return false; }
   [[nodiscard]] std::size_t PagesHeld() const override { return 0; }
   [[nodiscard]] std::size_t PagesKeptForLater() const override { return 0; }

@@ -1,3 +1,4 @@
+#include "host/gui_growth.h"
 #include "host/scenario_run.h"
 #include "settings/settings_access.h"
 #include "settings/settings_text.h"
@@ -54,6 +55,43 @@ void Repeat(ScenarioRun& run, Words& words) {
   run.Invoke({});
 }
 
+void OpenOften(ScenarioRun& run, int times) {
+  for (int i = 0; i < times; ++i) {
+    RunRequest request;
+    request.asksParameters = true;
+    request.playInfo = host::plugInDialogDisplay;
+    run.Invoke(request);
+    run.errorIsOpen = false;
+    if (run.lastError != host::userCanceledErr) throw ScenarioError("the dialog was not cancelled");
+  }
+}
+
+// open NUMBER dialogs: one after the other, each cancelled as soon as it shows. They
+// leave no graphics object and no window behind, and less than a kilobyte each.
+void OpenDialogs(ScenarioRun& run, Words& words) {
+  const int times = words.NextInt("number");
+  words.Demand("dialogs");
+  run.LoadModule();
+  if (!run.Host().module->AnswerOwnDialog(ModuleEntry::OwnDialog::kCancel)) {
+    run.isSkipped = true;
+    return;
+  }
+  // What the system keeps from the first ones is no growth.
+  constexpr int kWarmUp = 20;
+  OpenOften(run, kWarmUp);
+  const GuiRoom before = MeasureGuiRoom();
+  OpenOften(run, times);
+  const GuiRoom after = MeasureGuiRoom();
+  const int graphics = before.graphics - after.graphics;
+  const int windows = before.windows - after.windows;
+  const long long bytes = after.bytes - before.bytes;
+  if (graphics > 0 || windows > 0 || bytes > 1024LL * times) {
+    throw ScenarioError(std::to_string(times) + " openings leave " + std::to_string(graphics) +
+                        " graphics objects, " + std::to_string(windows) + " windows and " +
+                        std::to_string(bytes) + " bytes");
+  }
+}
+
 // record NAME: what the last run has left becomes a step.
 void Record(ScenarioRun& run, Words& words) {
   if (!run.Host().hasRecorded) throw ScenarioError("nothing was recorded");
@@ -90,7 +128,7 @@ void About(ScenarioRun& run, Words&) {
 const CommandTable& RunCommands() {
   static const CommandTable table = {
       {"settings", Settings}, {"run", Run},   {"repeat", Repeat}, {"record", Record},
-      {"replay", Replay},     {"call", Call}, {"about", About},
+      {"replay", Replay},     {"call", Call}, {"about", About},   {"open", OpenDialogs},
   };
   return table;
 }

@@ -80,6 +80,7 @@ void ScenarioRun::EndHost() {
 void ScenarioRun::LoadModule() {
   host_->module->Load(OutPath(moduleName));
   if (hasDialog) host_->module->SetDialog(this);
+  if (dialogIsByHand) host_->module->AnswerOwnDialog(ModuleEntry::OwnDialog::kByHand);
 }
 
 void ScenarioRun::RestartHost() {

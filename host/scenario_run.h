@@ -18,6 +18,7 @@ struct ScenarioPaths {
   std::string dataFolder;   // what the files of a scenario are named from
   std::string listFolder;   // lists of keys
   std::string builtModule;  // the module's file; not used when it is linked in
+  std::string keptFolder;  // where the module and its files lie, and stay; empty: gone with the run
 };
 
 // One scenario on a host of its own. The commands stand in tables, by their first
@@ -35,13 +36,13 @@ class ScenarioRun : public ModuleEntry::StandInDialog {
   // For the commands.
   [[nodiscard]] TestHost& Host() { return *host_; }
   [[nodiscard]] std::string DataPath(const std::string& name) const {
-    return paths_.dataFolder + '/' + name;
+    return name.front() == '/' ? name : paths_.dataFolder + '/' + name;
   }
   [[nodiscard]] std::string ListPath(const std::string& name) const {
     return paths_.listFolder + '/' + name;
   }
   [[nodiscard]] std::string OutPath(const std::string& name) const {
-    return folder_.Path() + '/' + name;
+    return (paths_.keptFolder.empty() ? folder_.Path() : paths_.keptFolder) + '/' + name;
   }
   // Loads the module, from the folder that the scenario has made.
   void LoadModule();
@@ -70,6 +71,7 @@ class ScenarioRun : public ModuleEntry::StandInDialog {
   bool hasView = false;
   DocumentView view;
   std::vector<std::pair<std::string, std::string>> dialogSettings;
+  bool dialogIsByHand = false;  // the module's own dialog waits for its user
   std::int16_t lastError = 0;
   bool errorIsOpen = false;
   bool ignoresBoxes = false;

@@ -43,6 +43,7 @@ class BadModule : public ModuleEntry {
   [[nodiscard]] void* Handle() const override { return nullptr; }
   [[nodiscard]] bool TakesStandInDialog() const override { return false; }
   void SetDialog(StandInDialog*) override {}
+  bool AnswerOwnDialog(OwnDialog) override { return false; }
   [[nodiscard]] bool CountsPages() const override { return false; }
   [[nodiscard]] std::size_t PagesHeld() const override { return 0; }
   [[nodiscard]] std::size_t PagesKeptForLater() const override { return 0; }

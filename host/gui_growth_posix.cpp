@@ -1,0 +1,11 @@
+#include "host/gui_growth.h"
+
+namespace tarnwick::testhost {
+
+void BecomeScreenAware() {}
+
+GuiRoom MeasureGuiRoom() {
+  return {};
+}
+
+}  // namespace tarnwick::testhost
