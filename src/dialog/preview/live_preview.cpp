@@ -80,6 +80,7 @@ void LivePreview::Open(PaneSize pane) {
     host::FilterRecord& record = *g_.gFilterRecord;
     record.inLoPlane = record.outLoPlane = 0;
     FetchDocumentAtZoom(g_);
+    pixels_.KeepSelection(g_);
     const bool isMasked = record.haveMask != 0 || record.planes > 3;
     if (isMasked) g_.render.selectionPlane = g_.selectionPlane.Data();
     ApplyZoom(zoom_, pane, document_);
@@ -96,19 +97,22 @@ void LivePreview::FetchWindow() {
   });
 }
 
-void LivePreview::MarkWindowStale() {
+void LivePreview::MarkWindowStale(bool scaleChanged) {
   MarkTexturesDirty(g_.layers);
   MarkCoverageDirty(g_.layers);
   for (EffectLayer& wash : g_.layers.washes) {
     wash.edgeSamples.Free();
     wash.samplesWhole = false;
+    // The edge's blur goes by the scale: kept, it would show the softness of another.
+    if (scaleChanged && wash.edgeBlurRadius != 0) wash.edgeDirty = true;
   }
   AllocateSurfaceBuffers(g_.render);
 }
 
 ZoomButtons LivePreview::Show(ZoomButtons buttons) {
+  const float before = g_.render.viewScale;
   FetchWindow();
-  MarkWindowStale();
+  MarkWindowStale(g_.render.viewScale != before);
   return buttons;
 }
 

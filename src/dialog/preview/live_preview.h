@@ -97,7 +97,7 @@ class LivePreview {
  private:
   void BeginState();
   void FetchWindow();
-  void MarkWindowStale();
+  void MarkWindowStale(bool scaleChanged);
   [[nodiscard]] ZoomButtons Show(ZoomButtons buttons);
 
   FilterGlobals& g_;

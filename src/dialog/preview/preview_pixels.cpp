@@ -10,6 +10,7 @@
 #include "filter/host_colors.h"
 #include "filter/host_rects.h"
 #include "filter/picture_job.h"
+#include "imaging/nearest_places.h"
 
 namespace tarnwick {
 namespace {
@@ -83,14 +84,44 @@ void PreviewPixels::Request(FilterGlobals& g, const PaneZoom& zoom) {
   if (IsRenderable(delivered)) TakeOutput(record);
 }
 
-void PreviewPixels::TakeSelection(FilterGlobals& g, const PictureJob& delivered) {
-  if (delivered.selection == nullptr || delivered.selectionRowBytes < size_.width) return;
-  const auto width = static_cast<std::size_t>(size_.width);
-  selection_.resize(width * static_cast<std::size_t>(size_.height));
-  for (int y = 0; y < size_.height; ++y) {
-    std::memcpy(selection_.data() + static_cast<std::size_t>(y) * width,
-                delivered.selection + y * delivered.selectionRowBytes, width);
+void PreviewPixels::KeepSelection(const FilterGlobals& g) {
+  wholeSelection_.Free();
+  if (*g.gResult != host::noErr) return;
+  const PictureJob job = JobOf(*g.gFilterRecord, GetInRect(*g.gFilterRecord));
+  if (job.selection == nullptr || !IsRenderable(job)) return;
+  const auto width = static_cast<std::size_t>(job.width);
+  if (!wholeSelection_.Allocate(width * static_cast<std::size_t>(job.height))) return;
+  wholeSize_ = {job.width, job.height};
+  for (int y = 0; y < job.height; ++y) {
+    std::memcpy(wholeSelection_.Data() + static_cast<std::size_t>(y) * width,
+                job.selection + y * job.selectionRowBytes, width);
   }
+}
+
+void PreviewPixels::TakeSelection(FilterGlobals& g, const PictureJob& delivered) {
+  if (size_.width < 1 || size_.height < 1) return;
+  const auto width = static_cast<std::size_t>(size_.width);
+  std::uint8_t* to = nullptr;
+  if (wholeSelection_) {
+    const RenderState& state = g.render;
+    const auto columns =
+        NearestPlaces(state.viewOriginX, size_.width, state.viewScale, wholeSize_.width);
+    const auto rows =
+        NearestPlaces(state.viewOriginY, size_.height, state.viewScale, wholeSize_.height);
+    selection_.resize(width * rows.size());
+    to = selection_.data();
+    for (const std::ptrdiff_t row : rows) {
+      const std::uint8_t* const from = wholeSelection_.Data() + row * wholeSize_.width;
+      for (const std::ptrdiff_t column : columns) *to++ = from[column];
+    }
+  } else if (delivered.selection != nullptr && delivered.selectionRowBytes >= size_.width) {
+    selection_.resize(width * static_cast<std::size_t>(size_.height));
+    to = selection_.data();
+    for (int y = 0; y < size_.height; ++y, to += width) {
+      std::memcpy(to, delivered.selection + y * delivered.selectionRowBytes, width);
+    }
+  }
+  if (to == nullptr) return;
   g.render.selection = selection_.data();
   g.render.selectionRowBytes = size_.width;
   g.render.hasSelection = true;
@@ -181,10 +212,6 @@ void PreviewPixels::WriteOriginal(FilterGlobals& g) {
 PaneSource PreviewPixels::Result() const {
   if (result_.empty()) return {};
   return {result_.data(), rowBytes_, planes_, is16Bit_, isCmyk_};
-}
-
-void PreviewPixels::Free() {
-  *this = PreviewPixels{};
 }
 
 }  // namespace tarnwick

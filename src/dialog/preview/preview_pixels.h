@@ -2,6 +2,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "base/page_buffer.h"
 #include "dialog/models/pane_image.h"
 #include "dialog/models/pane_zoom.h"
 #include "engine/apply_run.h"
@@ -17,6 +18,10 @@ namespace tarnwick {
 // Errors  of the host are in *g.gResult; then there is neither result nor selection.
 class PreviewPixels {
  public:
+  // Keeps the selection that was delivered with the whole document at full size. A
+  // host samples it from its own corner; the render wants the picture's.
+  void KeepSelection(const FilterGlobals& g);
+
   // Asks the host for the window at its scale, all planes, and sets the render's
   // size, scale, origin and selection.
   void Request(FilterGlobals& g, const PaneZoom& zoom);
@@ -36,7 +41,6 @@ class PreviewPixels {
   [[nodiscard]] const std::uint8_t* Backdrop() const {
     return backdrop_.empty() ? nullptr : backdrop_.data();
   }
-  void Free();
 
  private:
   void TakeOutput(const host::FilterRecord& record);
@@ -48,6 +52,8 @@ class PreviewPixels {
   int planes_ = 0;
   bool is16Bit_ = false;
   bool isCmyk_ = false;
+  PageBuffer<std::uint8_t> wholeSelection_;
+  PaneSize wholeSize_;
   std::vector<std::uint8_t> selection_;  // rows of size_.width
   std::vector<std::uint8_t> backdrop_;
 };
