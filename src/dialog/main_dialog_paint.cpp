@@ -44,9 +44,8 @@ INT_PTR MainDialog::Erase(HDC dc) {
   leaveOut(layout_.pane);
   leaveOut(layout_.tabs);
   leaveOut({0, 0, frame_.width, kHeaderHeight});
-  const int stripWidth = layout_.previewRight - frame_.previewLeft;
-  leaveOut({frame_.previewLeft, layout_.upperStripTop, stripWidth, kStripRows});
-  leaveOut({frame_.previewLeft, layout_.lowerStripTop, stripWidth, kStripRows});
+  leaveOut({frame_.previewLeft, layout_.upperStripTop, layout_.pane.width, kStripRows});
+  leaveOut({frame_.previewLeft, layout_.lowerStripTop, layout_.pane.width, kStripRows});
   RECT client{};
   GetClientRect(window_, &client);
   FillRect(dc, &client, SharedControls().faceBrush);

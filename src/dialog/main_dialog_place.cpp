@@ -57,7 +57,8 @@ void MainDialog::Place() {
               i == kBackgroundOption ? layout_.backgroundLabel : layout_.optionLabel);
     }
   }
-  strips_.SetWidth(layout_.previewRight - frame_.previewLeft);
+  // As wide as the pane, which is rounded up.
+  strips_.SetWidth(layout_.pane.width);
   if (preview_) PrintPercentage();
   InvalidateRect(window_, nullptr, TRUE);
 }

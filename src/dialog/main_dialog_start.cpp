@@ -158,7 +158,6 @@ void MainDialog::MakeTabs() {
 }
 
 void MainDialog::EnableOptions() {
-  const EffectSettings& settings = *g_.gParams;
   for (std::size_t i = 0; i < kNewLayerOptions.size(); ++i) {
     const bool isOffered =
         IsOptionOffered(i, g_.HostHasActions, g_.gFilterRecord->planes,
@@ -167,7 +166,6 @@ void MainDialog::EnableOptions() {
     TContaner* const label = optionLabels_[i];
     if (label != nullptr) EnableWindow(label->window, isOffered ? TRUE : FALSE);
   }
-  (void)settings;
 }
 
 void MainDialog::SkinHeader() {
