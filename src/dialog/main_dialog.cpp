@@ -6,6 +6,7 @@
 #include "controls/control_classes.h"
 #include "controls/control_shared.h"
 #include "dialog/dialog_commands.h"
+#include "dialog/host_picker.h"
 #include "dialog/models/help_pages.h"
 #include "environment/ui_file.h"
 #include "filter/module_handle.h"
@@ -23,18 +24,20 @@ MainDialog*& OpenDialog() {
 // What the controls share, as long as a dialog is there.
 class ControlSession {
  public:
-  explicit ControlSession(HINSTANCE instance) : instance_(instance) {
+  ControlSession(HINSTANCE instance, const host::FilterRecord& record) : instance_(instance) {
     const INITCOMMONCONTROLSEX common = {
         sizeof common, ICC_BAR_CLASSES | ICC_UPDOWN_CLASS | ICC_TAB_CLASSES | ICC_PROGRESS_CLASS};
     InitCommonControlsEx(&common);
     MakeSharedControls(instance);
     SetPreviewProc(PreviewPaneProc);
+    ColorPickers().host = HostPickerOf(record.colorServices);
     // A class that cannot be registered leaves its controls out, and no more.
     (void)RegisterControlClasses(instance);
   }
   ~ControlSession() {
     UnregisterControlClasses(instance_);
     FreeSharedControls();
+    ColorPickers() = {};
   }
   ControlSession(const ControlSession&) = delete;
   ControlSession& operator=(const ControlSession&) = delete;
@@ -150,7 +153,7 @@ bool RunMainDialog(FilterGlobals& g) {
   bool accepted = false;
   {
     const OwnerBack back(g);
-    const ControlSession controls(instance);
+    const ControlSession controls(instance, *g.gFilterRecord);
     MainDialog dialog(g);
     accepted = dialog.Run(instance, static_cast<HWND>(g.ownerWindow)) == IDOK;
     SaveUiFile(g.folders.modulePath + kUiFileName, *g.gParams, g.ui);

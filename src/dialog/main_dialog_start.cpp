@@ -3,6 +3,7 @@
 
 #include <commctrl.h>
 
+#include "controls/color_swatch.h"
 #include "controls/control_button.h"
 #include "controls/control_classes.h"
 #include "controls/control_shared.h"
@@ -76,6 +77,7 @@ int DpiOfScreen() {
 
 void MainDialog::Start() {
   g_.ownerWindow = window_;
+  ColorPickers().fallbackOwner = window_;
   screenDpi_ = DpiOfScreen();
   dpiFactor_ = DpiFactorOf(screenDpi_);
   RegisterHotKeys(window_);
