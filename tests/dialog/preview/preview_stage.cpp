@@ -119,22 +119,27 @@ Pnm PreviewStage::Fresh(ViewMode view, PaneSize pane) {
                              zoom.proxy.width,
                              zoom.proxy.height,
                              view};
-  Bytes out(static_cast<std::size_t>(window.width * window.height * part.planes));
-  job.out = out.data();
-  job.outRowBytes = window.width * part.planes;
+  Pnm out{window.width, window.height, part.planes, {}};
+  out.samples.resize(static_cast<std::size_t>(out.width * out.height * out.planes));
+  job.out = out.samples.data();
+  job.outRowBytes = out.width * out.planes;
   EffectSettings own = settings;
   EXPECT_EQ(RenderPreview(own, g.session, job, window), ApplyOutcome::kDone);
-  Pnm fresh{
-      std::min(window.width, pane.width) / 4 * 4, std::min(window.height, pane.height), 3, {}};
-  for (int y = 0; y < fresh.height; ++y) {
-    for (int x = 0; x < fresh.width; ++x) {
-      const std::uint8_t* const pixel = job.out + (y * window.width + x) * part.planes;
-      for (int c = 0; c < 3; ++c) {
-        fresh.samples.push_back(OverGrid(pixel[c], part.planes >= 4 ? pixel[3] : 255, x, y));
-      }
+  return PaneOf(out, pane);
+}
+
+Pnm PaneOf(const Pnm& rendered, PaneSize pane) {
+  Pnm shown{
+      std::min(rendered.width, pane.width) / 4 * 4, std::min(rendered.height, pane.height), 3, {}};
+  for (int y = 0; y < shown.height; ++y) {
+    for (int x = 0; x < shown.width; ++x) {
+      const std::uint8_t* const pixel =
+          rendered.samples.data() + (y * rendered.width + x) * rendered.planes;
+      const int alpha = rendered.planes >= 4 ? pixel[3] : 255;
+      for (int c = 0; c < 3; ++c) shown.samples.push_back(OverGrid(pixel[c], alpha, x, y));
     }
   }
-  return fresh;
+  return shown;
 }
 
 Document NoisyDocument(int width, int height, int planes) {

@@ -41,6 +41,9 @@ class PreviewStage {
 // A document of one layer: a noisy picture, with a transparency that comes and goes if
 // there are four planes.
 [[nodiscard]] testhost::Document NoisyDocument(int width, int height, int planes);
+// A rendered window as the pane shows it when nothing lies below: cut to its size, the
+// width to a multiple of 4, transparency over the grid of squares.
+[[nodiscard]] Pnm PaneOf(const Pnm& rendered, PaneSize pane);
 // Selects softly, all over.
 void SelectSoftly(testhost::Document& document);
 // No effect at all.
