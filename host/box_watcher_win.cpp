@@ -21,9 +21,9 @@ bool IsAboutBox(HWND box) {
   return std::strncmp(caption, kAboutCaption, sizeof kAboutCaption - 1) == 0;
 }
 
-int& DialogAnswer() {
-  static int command = IDOK;
-  return command;
+bool& AreDialogsLeft() {
+  static bool areLeft = false;
+  return areLeft;
 }
 
 bool IsModuleDialog(HWND box) {
@@ -43,12 +43,10 @@ LRESULT CALLBACK OnActivation(int code, WPARAM wParam, LPARAM lParam) {
     const HWND label = GetDlgItem(box, kBoxText);
     const bool isDialog = std::strcmp(className, "#32770") == 0 && WatchedLog() != nullptr;
     if (isDialog && IsModuleDialog(box)) {
-      ++WatchedLog()->dialogsShown;
-      if (DialogAnswer() != 0)
-        PostMessageA(box, WM_COMMAND, static_cast<WPARAM>(DialogAnswer()), 0);
+      if (!AreDialogsLeft()) PostMessageA(box, WM_COMMAND, IDCANCEL, 0);
     } else if (isDialog && IsAboutBox(box)) {
       ++WatchedLog()->aboutsShown;
-      PostMessageA(box, WM_COMMAND, IDOK, 0);
+      if (!AreDialogsLeft()) PostMessageA(box, WM_COMMAND, IDOK, 0);
     } else if (isDialog && label != nullptr) {
       char text[2048] = {};
       GetWindowTextA(label, text, sizeof text);
@@ -66,12 +64,12 @@ BoxWatcher::BoxWatcher(HostLog& log)
   WatchedLog() = &log;
 }
 
-void BoxWatcher::AnswerDialog(int command) {
-  DialogAnswer() = command;
+void BoxWatcher::LeaveDialogs(bool isLeft) {
+  AreDialogsLeft() = isLeft;
 }
 
 BoxWatcher::~BoxWatcher() {
-  DialogAnswer() = IDOK;
+  AreDialogsLeft() = false;
   UnhookWindowsHookEx(static_cast<HHOOK>(hook_));
   WatchedLog() = nullptr;
 }

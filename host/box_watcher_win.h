@@ -4,8 +4,7 @@
 namespace tarnwick::testhost {
 
 // Answers the message boxes of this thread: notes their texts and presses OK. The
-// module's dialog is answered too as soon as it shows, unless it is left to a user. One
-// watcher at a time.
+// module's dialog, if it shows, is cancelled. One watcher at a time.
 class BoxWatcher {
  public:
   explicit BoxWatcher(HostLog& log);
@@ -13,8 +12,8 @@ class BoxWatcher {
   BoxWatcher(const BoxWatcher&) = delete;
   BoxWatcher& operator=(const BoxWatcher&) = delete;
 
-  // The command that ends the dialog: OK at first; 0 leaves it to a user.
-  void AnswerDialog(int command);
+  // The module's dialogs wait for their user; boxes do not.
+  void LeaveDialogs(bool isLeft);
 
  private:
   void* hook_;

@@ -59,8 +59,9 @@ class ModuleEntry {
   };
   virtual void SetDialog(StandInDialog* dialog) = 0;
 
-  // What becomes of the module's own dialog when it opens. False: it has none.
-  enum class OwnDialog : std::uint8_t { kOk, kCancel, kByHand };
+  // What becomes of the module's own dialog: at first it is left out, as if OK were
+  // pressed at once. False: it has none.
+  enum class OwnDialog : std::uint8_t { kLeftOut, kCancelled, kByHand };
   virtual bool AnswerOwnDialog(OwnDialog answer) = 0;
 
   // Blocks of pages that the module has taken and not given back, apart from

@@ -5,6 +5,7 @@
 #include <stdexcept>
 
 #include "host/box_watcher_win.h"
+#include "host/dialog_bypass_win.h"
 #include "host/module_entry.h"
 
 namespace tarnwick::testhost {
@@ -15,7 +16,9 @@ using PluginMainProc = void(__cdecl*)(std::int16_t, void*, std::intptr_t*, std::
 class LoadedModule : public ModuleEntry {
  public:
   LoadedModule(HostLog& log, std::string builtModule)
-      : watcher_(log), builtModule_(std::move(builtModule)) {}
+      : watcher_(log), builtModule_(std::move(builtModule)) {
+    BypassOwnDialog(true);
+  }
   ~LoadedModule() override { Unload(); }
   LoadedModule(const LoadedModule&) = delete;
   LoadedModule& operator=(const LoadedModule&) = delete;
@@ -30,6 +33,7 @@ class LoadedModule : public ModuleEntry {
       throw std::runtime_error("the module cannot be loaded: error " +
                                std::to_string(GetLastError()));
     }
+    WatchDialogCalls(module_);
     main_ = reinterpret_cast<PluginMainProc>(
         reinterpret_cast<void*>(GetProcAddress(module_, "PluginMain")));
     if (main_ == nullptr) throw std::runtime_error("the module has no PluginMain");
@@ -49,9 +53,8 @@ class LoadedModule : public ModuleEntry {
   [[nodiscard]] bool TakesStandInDialog() const override { return false; }
   void SetDialog(StandInDialog*) override {}
   bool AnswerOwnDialog(OwnDialog answer) override {
-    watcher_.AnswerDialog(answer == OwnDialog::kOk       ? IDOK
-                          : answer == OwnDialog::kCancel ? IDCANCEL
-                                                         : 0);
+    BypassOwnDialog(answer == OwnDialog::kLeftOut);
+    watcher_.LeaveDialogs(answer == OwnDialog::kByHand);
     return true;
   }
   [[nodiscard]] bool CountsPages() const override { return false; }

@@ -72,7 +72,7 @@ void OpenDialogs(ScenarioRun& run, Words& words) {
   const int times = words.NextInt("number");
   words.Demand("dialogs");
   run.LoadModule();
-  if (!run.Host().module->AnswerOwnDialog(ModuleEntry::OwnDialog::kCancel)) {
+  if (!run.Host().module->AnswerOwnDialog(ModuleEntry::OwnDialog::kCancelled)) {
     run.isSkipped = true;
     return;
   }
