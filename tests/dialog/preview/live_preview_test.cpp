@@ -1,7 +1,7 @@
 // What the preview shows, held against pictures worked out by hand.
 #include <gtest/gtest.h>
 
-#include <cmath>
+#include <algorithm>
 
 #include "dialog/preview/preview_stage.h"
 #include "host/counted_pages.h"
@@ -73,6 +73,8 @@ TEST(LivePreview, ShowsFlatDocumentsInEachMode) {
       {"alpha as it was", "rgb", {100, 0, 255, 51}, ViewMode::kOriginal, {183, 163, 214}},
       // 200 * 128 / 255 = 100.4, 100 -> 50.2, 50 -> 25.1
       {"cmyk", "cmyk", {200, 100, 50, 128}, ViewMode::kComposite, {100, 50, 25}},
+      // The pane takes the fourth plane for alpha, and a converted one has no black.
+      {"cmyk, clear", "cmyk", {200, 100, 50, 128, 51}, ViewMode::kComposite, {100, 50, 25}},
       {"cmyk as it was", "cmyk", {200, 100, 50, 128}, ViewMode::kOriginal, {100, 50, 25}},
   };
   for (const auto& c : kCases) {
@@ -85,6 +87,55 @@ TEST(LivePreview, ShowsFlatDocumentsInEachMode) {
         << c.name;
     EXPECT_EQ(stage.result, 0) << c.name;
   }
+}
+
+// Under a clear layer lies a picture: the pane shows every second pixel of it.
+TEST(LivePreview, ShowsWhatLiesBelow) {
+  constexpr PaneSize kPane = {24, 20};
+  Document document = NoisyDocument(64, 48, 3);
+  const testhost::Layer below = document.layers[0];
+  testhost::Layer clear = FlatDocument("rgb", 64, 48, {9, 9, 9, 0}).layers[0];
+  clear.name = "Clear";
+  document.layers.push_back(clear);
+  document.target = 1;
+  PreviewStage stage(document);
+  NameNoTextures(stage.settings);
+  stage.Open(kPane);
+  stage.preview->ZoomOut(kPane);
+  stage.preview->Pan(-3, -2);
+  const PaneZoom& zoom = stage.preview->Zoom();
+  ASSERT_EQ(zoom.viewScale, 2);
+  for (const ViewMode view : {ViewMode::kComposite, ViewMode::kOriginal}) {
+    const Pnm shown = stage.Shown(view, kPane);
+    ASSERT_EQ(shown.samples.size(), 24U * 20 * 3);
+    std::size_t at = 0;
+    for (int y = 0; y < 20; ++y) {
+      for (int x = 0; x < 24; ++x) {
+        const int pixel = (zoom.panY + y) * 2 * 64 + (zoom.panX + x) * 2;
+        for (int c = 0; c < 3; ++c) {
+          ASSERT_EQ(shown.samples[at++], below.samples[static_cast<std::size_t>(pixel * 3 + c)])
+              << x << ' ' << y;
+        }
+      }
+    }
+  }
+}
+
+TEST(LivePreview, ReportsUpwardsAndThenNothing) {
+  struct Sink : ProgressSink {
+    std::vector<int> done;
+    void Report(int now, int) override { done.push_back(now); }
+  } sink;
+  PreviewStage stage(NoisyDocument(64, 48, 3));
+  stage.preview = std::make_unique<LivePreview>(stage.g, &sink);
+  stage.preview->Open({24, 20});
+  sink.done.clear();
+  stage.preview->Render(ViewMode::kComposite);
+  ASSERT_GT(sink.done.size(), 2U);
+  EXPECT_EQ(sink.done.back(), 0);
+  sink.done.pop_back();
+  EXPECT_EQ(sink.done.back(), 100);
+  EXPECT_TRUE(std::is_sorted(sink.done.begin(), sink.done.end()));
 }
 
 // A host sample of 16 bits is read as two bytes by the render, and as what it is by the
