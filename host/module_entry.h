@@ -46,6 +46,9 @@ class ModuleEntry {
   // The platform's handle of the loaded module; null when it is linked in.
   [[nodiscard]] virtual void* Handle() const = 0;
 
+  // The platform's handle of the window that dialogs of the module belong to, or null.
+  [[nodiscard]] virtual void* OwnerWindow() const { return nullptr; }
+
   // A dialog in the place of the module's own: each time it is to be shown, `show`
   // is called with the settings and answers for the user. Null shows none.
   [[nodiscard]] virtual bool TakesStandInDialog() const = 0;

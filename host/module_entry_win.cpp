@@ -13,13 +13,22 @@ namespace {
 
 using PluginMainProc = void(__cdecl*)(std::int16_t, void*, std::intptr_t*, std::int16_t*);
 
+// The host's own window, below all dialogs.
+HWND MakeOwner() {
+  return CreateWindowExA(0, "STATIC", "Test host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 400, 300,
+                         nullptr, nullptr, GetModuleHandleA(nullptr), nullptr);
+}
+
 class LoadedModule : public ModuleEntry {
  public:
   LoadedModule(HostLog& log, std::string builtModule)
       : watcher_(log), builtModule_(std::move(builtModule)) {
     BypassOwnDialog(true);
   }
-  ~LoadedModule() override { Unload(); }
+  ~LoadedModule() override {
+    Unload();
+    if (owner_ != nullptr) DestroyWindow(owner_);
+  }
   LoadedModule(const LoadedModule&) = delete;
   LoadedModule& operator=(const LoadedModule&) = delete;
 
@@ -48,6 +57,7 @@ class LoadedModule : public ModuleEntry {
     main_(selector, record, data, result);
   }
   [[nodiscard]] void* Handle() const override { return module_; }
+  [[nodiscard]] void* OwnerWindow() const override { return owner_; }
 
   // Dialog and pages are the module's own.
   [[nodiscard]] bool TakesStandInDialog() const override { return false; }
@@ -55,6 +65,7 @@ class LoadedModule : public ModuleEntry {
   bool AnswerOwnDialog(OwnDialog answer) override {
     BypassOwnDialog(answer == OwnDialog::kLeftOut);
     watcher_.LeaveDialogs(answer == OwnDialog::kByHand);
+    if (answer == OwnDialog::kByHand && owner_ == nullptr) owner_ = MakeOwner();
     return true;
   }
   [[nodiscard]] bool CountsPages() const override { return false; }
@@ -67,6 +78,7 @@ class LoadedModule : public ModuleEntry {
   BoxWatcher watcher_;
   std::string builtModule_;
   HMODULE module_ = nullptr;
+  HWND owner_ = nullptr;
   PluginMainProc main_ = nullptr;
 };
 

@@ -38,6 +38,7 @@ void SetCallbacks(TestHost& host, host::FilterRecord& record) {
   record.progressProc = options.progress ? Progress : nullptr;
   record.advanceState = options.advance ? AdvanceState : nullptr;
   record.handleProcs = options.handleProcs ? HandleProcTable() : nullptr;
+  host.platform.hwnd = host.module != nullptr ? host.module->OwnerWindow() : nullptr;
   record.platformData = &host.platform;
   record.colorServices = options.colorServices ? ServeColors : nullptr;
   record.channelPortProcs = options.channelPorts ? ChannelPortTable() : nullptr;
