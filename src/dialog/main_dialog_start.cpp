@@ -144,7 +144,7 @@ void MainDialog::FindFrame() {
 }
 
 void MainDialog::MakeTabs() {
-  tabs_ = CreateWindowExA(0, WC_TABCONTROLA, "", kTabStyle, 10, 80, 100, 100, window_,
+  tabs_ = CreateWindowExA(0, WC_TABCONTROLA, "", kTabStyle, 10, 80, 400, 400, window_,
                           reinterpret_cast<HMENU>(static_cast<INT_PTR>(kTabControl)), instance_,
                           nullptr);
   if (tabs_ == nullptr) return;
