@@ -46,9 +46,10 @@ endif()
 
 find_package(Threads REQUIRED)
 
-# For targets of many small sources, which else spend half their time on these.
+# For targets of many small sources, which else spend half their time on these. Not
+# with GCC, which then warns of what it finds in the library itself.
 function(tarnwick_precompile)
-  if(NOT TARNWICK_PCH)
+  if(NOT TARNWICK_PCH OR NOT CMAKE_CXX_COMPILER_ID MATCHES "Clang")
     return()
   endif()
   foreach(target ${ARGN})
