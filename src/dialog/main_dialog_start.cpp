@@ -91,6 +91,9 @@ void MainDialog::Start() {
   closedHand_ = LoadCursorA(instance_, MAKEINTRESOURCEA(TARNWICK_ART_CLOSED_HAND));
   // Before the labels, which paint as they are made.
   SharedControls().fonts = MakeControlFonts(screenDpi_);
+  // Its place grows less than the dialog's own font does.
+  SendMessageA(Item(kPercentage), WM_SETFONT,
+               reinterpret_cast<WPARAM>(SharedControls().fonts.FontThumbCaption), FALSE);
   MakeOptions();
   FindFrame();
   strips_.LoadShade(bitmaps_.Load(instance_, TARNWICK_ART_CORNER_SHADE));
