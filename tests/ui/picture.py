@@ -58,7 +58,10 @@ def read_pnm(path):
         place = line + 1
     assert words[0] == b"P6" and words[3] == b"255", f"{path} is no 8-bit P6 file"
     width, height = int(words[1]), int(words[2])
-    samples = data[place:place + width * height * 3]
+    return from_rgb(width, height, data[place:place + width * height * 3])
+
+
+def from_rgb(width, height, samples):
     pixels = bytearray(width * height * 4)
     pixels[0::4], pixels[1::4], pixels[2::4] = samples[2::3], samples[1::3], samples[0::3]
     return Picture(width, height, pixels)

@@ -3,6 +3,8 @@
 
 #include <commctrl.h>
 
+#include <cstddef>
+#include <string>
 #include <vector>
 
 #include "ui/window_agent/windows_seen.h"
@@ -20,7 +22,7 @@ class RemoteRecord {
     GetWindowThreadProcessId(window, &process);
     process_ =
         OpenProcess(PROCESS_VM_OPERATION | PROCESS_VM_READ | PROCESS_VM_WRITE, FALSE, process);
-    memory_ = static_cast<char*>(
+    memory_ = static_cast<std::byte*>(
         VirtualAllocEx(process_, nullptr, size + kLongestText, MEM_COMMIT, PAGE_READWRITE));
   }
   ~RemoteRecord() {
@@ -30,14 +32,17 @@ class RemoteRecord {
   RemoteRecord(const RemoteRecord&) = delete;
   RemoteRecord& operator=(const RemoteRecord&) = delete;
 
-  [[nodiscard]] char* TextPlace() const { return memory_ + size_; }
+  [[nodiscard]] wchar_t* TextPlace() const { return reinterpret_cast<wchar_t*>(memory_ + size_); }
   void Put(const void* record) { WriteProcessMemory(process_, memory_, record, size_, nullptr); }
   void Take(void* record) { ReadProcessMemory(process_, memory_, record, size_, nullptr); }
+  // Of wide letters, which all have to be of ASCII.
   [[nodiscard]] std::string Text() const {
-    std::vector<char> text(kLongestText);
-    ReadProcessMemory(process_, TextPlace(), text.data(), text.size(), nullptr);
+    std::vector<wchar_t> text(kLongestText / sizeof(wchar_t));
+    ReadProcessMemory(process_, TextPlace(), text.data(), kLongestText, nullptr);
     text.back() = 0;
-    return text.data();
+    std::string narrow;
+    for (const wchar_t* c = text.data(); *c != 0; ++c) narrow += static_cast<char>(*c);
+    return narrow;
   }
   // The answer to a message about the record.
   LRESULT Send(HWND window, UINT message, WPARAM wParam) {
@@ -49,7 +54,7 @@ class RemoteRecord {
  private:
   std::size_t size_;
   HANDLE process_ = nullptr;
-  char* memory_ = nullptr;
+  std::byte* memory_ = nullptr;
 };
 
 struct TipSearch {
@@ -65,14 +70,18 @@ BOOL CALLBACK TellTipsOf(HWND tip, LPARAM lParam) {
   LRESULT count = 0;
   if (!Ask(tip, TTM_GETTOOLCOUNT, 0, 0, count)) return TRUE;
   for (LRESULT i = 0; i < count; ++i) {
-    RemoteRecord remote(tip, TTTOOLINFOA_V1_SIZE);
-    TOOLINFOA tool{};
-    tool.cbSize = TTTOOLINFOA_V1_SIZE;
+    // With narrow letters a text would be cut at its 80th.
+    RemoteRecord remote(tip, TTTOOLINFOW_V1_SIZE);
+    TOOLINFOW tool{};
+    tool.cbSize = TTTOOLINFOW_V1_SIZE;
+    remote.Put(&tool);
+    remote.Send(tip, TTM_ENUMTOOLSW, static_cast<WPARAM>(i));
+    remote.Take(&tool);
+    if (tool.hwnd != search.target) continue;
     tool.lpszText = remote.TextPlace();
     remote.Put(&tool);
-    remote.Send(tip, TTM_ENUMTOOLSA, static_cast<WPARAM>(i));
-    remote.Take(&tool);
-    if (tool.hwnd == search.target) search.answer->Text(remote.Text());
+    remote.Send(tip, TTM_GETTEXTW, kLongestText / sizeof(wchar_t));
+    search.answer->Text(remote.Text());
   }
   return TRUE;
 }
@@ -91,13 +100,13 @@ void TellTabs(HWND tabs, JsonLine& answer) {
   if (!Ask(tabs, TCM_GETITEMCOUNT, 0, 0, count)) count = 0;
   answer.Begin('[');
   for (LRESULT i = 0; i < count; ++i) {
-    RemoteRecord remote(tabs, sizeof(TCITEMA));
-    TCITEMA item{};
+    RemoteRecord remote(tabs, sizeof(TCITEMW));
+    TCITEMW item{};
     item.mask = TCIF_TEXT;
     item.pszText = remote.TextPlace();
-    item.cchTextMax = kLongestText;
+    item.cchTextMax = kLongestText / sizeof(wchar_t);
     remote.Put(&item);
-    remote.Send(tabs, TCM_GETITEMA, static_cast<WPARAM>(i));
+    remote.Send(tabs, TCM_GETITEMW, static_cast<WPARAM>(i));
     answer.Text(remote.Text());
   }
   answer.End(']');

@@ -1,0 +1,154 @@
+"""The preview pane of the main dialog: zoom, pan and what it shows."""
+from host_run import KEYPAD_MINUS, KEYPAD_PLUS
+from scenarios import equal, scenario
+from screen import wait_for
+
+CANCELLED = ["expect error -128", "expect untouched"]
+
+
+def buttons(dialog):
+    return [dialog[1000].look().enabled, dialog[1001].look().enabled]
+
+
+@scenario(96, 144)
+def zoom_steps_by_buttons_and_keys(run):
+    """Of 1400 x 1000, the pane of the smallest window shows a third at fit."""
+    dialog = run.open(after=CANCELLED)
+    width, height = dialog[1002].size
+    steps = max(-(-1400 // width), -(-1000 // height))
+    assert steps >= 3
+    for scale in range(2, steps + 1):
+        if scale % 2:
+            run.screen.key(KEYPAD_MINUS)
+        else:
+            dialog[1001].click()
+        dialog.wait_scale(100 // scale)
+        dialog.wait_pane(dialog.window_at(0, 0, scale))
+        equal(buttons(dialog), [True, scale < steps])
+    # The key of a disabled button does nothing; the next one comes after it.
+    run.screen.key(KEYPAD_MINUS)
+    run.screen.key(KEYPAD_PLUS)
+    dialog.wait_scale(100 // (steps - 1))
+    run.screen.key("ctrl+1")
+    dialog.wait_scale(100)
+    equal(buttons(dialog), [False, True])
+    run.screen.key(KEYPAD_PLUS)
+    run.screen.key("ctrl+0")
+    dialog.wait_scale(100 // steps)
+    dialog.wait_pane(dialog.window_at(0, 0, steps))
+    equal(buttons(dialog), [True, False])
+    dialog.cancel()
+
+
+@scenario()
+def zoom_keeps_the_middle(run):
+    dialog = run.open(after=CANCELLED)
+    width, height = dialog[1002].size
+    dialog[1001].click()
+    dialog.wait_scale(50)
+    dialog.wait_pane(dialog.window_at(0, 0, 2))
+    # Twice as large: half of the 700 and 500 pixels that come with it, as far as there are.
+    dialog[1000].click()
+    dialog.wait_scale(100)
+    dialog.wait_pane(dialog.window_at(min(350, 1400 - width), min(250, 1000 - height)))
+    dialog.cancel()
+
+
+@scenario()
+def a_small_picture_stands_in_the_middle(run):
+    dialog = run.open(width=200, height=150, after=CANCELLED)
+    equal(buttons(dialog), [False, False])
+    dialog.wait_pane(run.aged("--scale", "1"))
+    dialog.cancel()
+
+
+@scenario(96, 144)
+def pan_follows_the_pointer(run):
+    dialog = run.open(after=CANCELLED)
+    pane = dialog[1002]
+    dialog.wait_pane(dialog.window_at(0, 0))
+    face = dialog.window.at(3, 110)
+    before = pane.picture()
+    pane.drag((200, 200), (120, 140), lets_go=False)
+    # The picture as it is moves along; what it has not yet is the dialog's face.
+    pane.wait_color(before.at(180, 160), 100, 100)
+    pane.wait_color(face, pane.size[0] - 4, pane.size[1] - 4)
+    run.screen.release()
+    dialog.wait_pane(dialog.window_at(80, 60))
+    # Not beyond its corner.
+    pane.drag((10, 10), (600, 500))
+    dialog.wait_pane(dialog.window_at(0, 0))
+    equal(dialog[1003].look().text, "100%")
+    dialog.cancel()
+
+
+@scenario()
+def pan_at_half_the_size(run):
+    dialog = run.open(width=2000, height=1500, after=CANCELLED)
+    pane = dialog[1002]
+    dialog[1001].click()
+    dialog.wait_scale(50)
+    pane.drag((200, 200), (163, 179))
+    dialog.wait_pane(dialog.window_at(37, 21, 2))
+    dialog.cancel()
+
+
+@scenario()
+def a_drag_with_control_moves_the_texture(run):
+    """Each move at once, and never on the first page."""
+    dialog = run.open(after=["expect setting WashOffsetY1 30"])
+    pane = dialog[1002]
+    dialog.wait_pane(dialog.window_at(0, 0))
+    before = pane.picture().rgb()
+    run.screen.do("keydown", "ctrl")
+    pane.drag((200, 200), (200, 170))
+    run.screen.do("keyup", "ctrl")
+    dialog.tab(1)
+    dialog.wait_pane(dialog.window_at(0, 0))
+    equal(pane.picture().rgb(), before)
+    run.screen.do("keydown", "ctrl")
+    pane.drag((200, 200), (200, 180), lets_go=False)
+    dialog.wait_pane(dialog.window_at(0, 0, 1, "--set", "WashOffsetY1=20"))
+    pane.screen.move(*pane.place(200, 170))
+    dialog.wait_pane(dialog.window_at(0, 0, 1, "--set", "WashOffsetY1=30"))
+    run.screen.release()
+    run.screen.do("keyup", "ctrl")
+    dialog.ok()
+    equal(run.result().rgb(), run.aged("--set", "WashOffsetY1=30").rgb())
+
+
+@scenario()
+def the_right_button_is_held_by_the_pane(run):
+    dialog = run.open(after=CANCELLED)
+    pane = dialog[1002]
+    pane.press(button=3)
+    wait_for(lambda: run.session.ask("focus")["capture"] == pane.number, "not captured")
+    run.screen.release(3)
+    wait_for(lambda: run.session.ask("focus")["capture"] == 0, "still captured")
+    dialog.wait_pane(dialog.window_at(0, 0))
+    dialog.cancel()
+
+
+@scenario()
+def transparency_is_black(run):
+    """There is no layer below; the alpha runs from clear on the left to opaque."""
+    dialog = run.open(width=400, height=300, planes=4, after=CANCELLED)
+    pane = dialog[1002]
+    left, top = (pane.size[0] - 400) // 2, (pane.size[1] - 300) // 2
+    pane.wait_color((0, 0, 0), left, top + 150)
+    wait_for(lambda: sum(pane.at(left + 390, top + 150)) > 60, "dark where it is opaque")
+    pane.screen.picture(*pane.client).save(run.file("pane.png"))
+    dialog.cancel()
+
+
+@scenario()
+def a_deep_picture_shows_the_same(run):
+    """16 bits a sample: 255 of 8 bits is 32768, and what is seen is a 128th of it."""
+    dialog = run.open(width=300, height=200, mode="rgb48", after=CANCELLED)
+    pane = dialog[1002]
+    left, top = (pane.size[0] - 300) // 2, (pane.size[1] - 200) // 2
+    wait_for(lambda: len(pane.screen.picture(pane.client[0] + left, pane.client[1] + top,
+                                             pane.client[0] + left + 300,
+                                             pane.client[1] + top + 200).colors()) > 500,
+             "no picture")
+    dialog.cancel()

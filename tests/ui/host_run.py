@@ -1,0 +1,181 @@
+"""The module's dialog in our test host, with a user before it.
+
+A run has a folder of its own: the module lies in it with its data folder, the ini
+file and what the host has saved. What the host is to expect after the dialog is
+written before it opens; its exit code then tells.
+"""
+import os
+import shutil
+import subprocess
+
+from picture import assert_same, from_rgb, read_pnm
+from screen import wait_for
+from windows import Program
+
+KEYPAD_PLUS, KEYPAD_MINUS = "ctrl+KP_Add", "ctrl+KP_Subtract"
+
+
+def pattern(width, height):
+    """A picture with edges, ramps and fine detail, as a P6 file's bytes."""
+    rows = []
+    for y in range(height):
+        row = bytearray(width * 3)
+        row[0::3] = bytes((x * 255 // width ^ (y >> 3 & 31)) & 255 for x in range(width))
+        row[1::3] = bytes((x + 2 * y) // 5 % 256 for x in range(width))
+        row[2::3] = bytes((x * y >> 7) & 255 for x in range(width))
+        rows.append(bytes(row))
+    return b"P6\n%d %d\n255\n" % (width, height) + b"".join(rows)
+
+
+def ramp(width, height):
+    """An alpha plane from clear on the left to opaque, as a P5 file's bytes."""
+    row = bytes(min(255, x * 300 // width) for x in range(width))
+    return b"P5\n%d %d\n255\n" % (width, height) + row * height
+
+
+class HostRun:
+    """Of one scenario; the dialog opens with open()."""
+
+    def __init__(self, session, arguments, name):
+        self.session, self.screen, self.name = session, session.screen, name
+        self.arguments = arguments
+        self.folder = os.path.join(session.folder, f"{name}-{session.dpi}dpi")
+        shutil.rmtree(self.folder, ignore_errors=True)
+        os.makedirs(self.folder)
+        self.program = None
+
+    def file(self, name):
+        return os.path.join(self.folder, name)
+
+    def put(self, name, data):
+        with open(self.file(name), "wb") as file:
+            file.write(data)
+        return self.file(name)
+
+    def open(self, width=1400, height=1000, planes=3, before=(), after=(), mode="rgb"):
+        """Runs the filter on a picture of this size; the dialog, once it is there."""
+        lines = [*before, "dialog by-hand", "run", *after]
+        if mode == "rgb":
+            lines.append('save layer "Layer 1" to result.pam')
+        self.start(width, height, planes, lines, mode)
+        return Dialog(self)
+
+    def start(self, width=1400, height=1000, planes=3, lines=(), mode="rgb"):
+        self.width, self.height = width, height
+        # What an earlier run has left; not the ini file.
+        shutil.rmtree(self.file("Tarnwick Studio"), ignore_errors=True)
+        if os.path.exists(self.file("TarnikStudi.8bf")):
+            os.remove(self.file("TarnikStudi.8bf"))
+        self.picture = self.put("picture.ppm", pattern(width, height))
+        alpha = ""
+        if planes > 3:
+            alpha = " alpha " + self.put("alpha.pgm", ramp(width, height))
+        lines = [f'scenario "{self.name}"',
+                 f"document {mode} {width}x{height} planes {planes} from {self.picture}{alpha}",
+                 *lines]
+        scenario = self.put("run.scn", "\n".join(lines + [""]).encode())
+        self.program = self.session.start(
+            self.arguments.host, "--data", self.arguments.data, "--lists",
+            self.arguments.lists, "--module", self.arguments.module, "--keep", self.folder,
+            scenario)
+
+    def finish(self):
+        """The host has gone on, and found what it was to expect."""
+        code = self.program.wait()
+        assert code == 0, self.program.printed()
+
+    def close(self):
+        if self.program is not None and self.program.alive():
+            self.program.end()
+
+    def ini(self):
+        """The ini file's values by their keys."""
+        with open(self.file("TarnwickStudio.ini")) as file:
+            lines = [line.split(";")[0].split() for line in file]
+        return {words[0]: int(words[1]) for words in lines if len(words) == 2}
+
+    def result(self):
+        """The layer after the run: its colours."""
+        with open(self.file("result.pam"), "rb") as file:
+            header, _, samples = file.read().partition(b"ENDHDR\n")
+        planes = int(header.split(b"DEPTH ")[1].split()[0])
+        assert planes == 3, "only colours are read"
+        return from_rgb(self.width, self.height, samples)
+
+    def aged(self, *options):
+        """What the command line makes of the picture with the same textures."""
+        out = self.file("aged.ppm")
+        subprocess.run([self.arguments.tarnwick, "age", "--quiet", "--force", "--data",
+                        self.file("Tarnwick Studio"), *options, self.picture, "-o", out],
+                       check=True, timeout=120)
+        return read_pnm(out)
+
+
+class Dialog:
+    def __init__(self, run):
+        self.run, self.screen, self.program = run, run.screen, run.program
+        self.window = self.program.window("Tarnwick Studio")
+        wait_for(lambda: self.screen.focused() == "Tarnwick Studio", "the dialog gets no keys")
+        self.look()
+
+    def look(self):
+        self.items = {child.id: child for child in self.window.look().children()}
+        return self
+
+    def __getitem__(self, number):
+        return self.items[number]
+
+    def shown(self, number):
+        return self[number].look().visible
+
+    def ok(self):
+        self[1].click()
+        self.run.finish()
+
+    def cancel(self):
+        self[2].click()
+        self.run.finish()
+
+    def tab(self, index):
+        """Brings up a page by a click on its tab."""
+        tabs = self[999]
+        captions = tabs.session.ask("tabs", tabs.number)
+        # Tabs are as wide as their captions; the clicks go along them.
+        for x in range(10, tabs.size[0], 8):
+            if tabs.send(0x130B) == index:
+                break
+            self.screen.click(*tabs.place(x, 8))
+            wait_for(lambda: tabs.send(0) == 0, "the tabs do not answer")
+        assert tabs.send(0x130B) == index, f"no tab {index} in {captions}"
+        self.look()
+
+    def wait_pane(self, want, seconds=60):
+        """The picture in the pane is this one, in the middle of it."""
+        left, top, right, bottom = self[1002].client
+
+        def seen():
+            return self.screen.picture(left + (right - left - want.width) // 2,
+                                       top + (bottom - top - want.height) // 2,
+                                       left + (right - left - want.width) // 2 + want.width,
+                                       top + (bottom - top - want.height) // 2 + want.height)
+        try:
+            wait_for(lambda: seen().rgb() == want.rgb(), "", seconds)
+        except Exception:
+            assert_same(seen(), want)
+            raise
+
+    def window_at(self, x, y, scale=1, *options):
+        """What the pane has to show: a window of the aged picture, in shown pixels."""
+        width, height = self[1002].size
+        width = min(width, self.run.width // scale - x)
+        height = min(height, self.run.height // scale - y)
+        whole = self.run.aged("--scale", str(scale), "--window", f"{x},{y},{width},{height}",
+                              *options)
+        return whole.crop(0, 0, width // 4 * 4, height)
+
+    def wait_frame(self, frame):
+        wait_for(lambda: self.window.look().frame == frame,
+                 lambda: f"the frame is {self.window.frame}, not {frame}")
+
+    def wait_scale(self, percent):
+        self[1003].wait_text(f"{percent}%")
