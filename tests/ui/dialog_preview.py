@@ -130,14 +130,18 @@ def the_right_button_is_held_by_the_pane(run):
 
 
 @scenario()
-def transparency_is_black(run):
-    """There is no layer below; the alpha runs from clear on the left to opaque."""
+def transparency_shows_the_grid(run):
+    """Squares of 7 pixels, for nothing lies below; clear on the left, opaque on the right."""
     dialog = run.open(width=400, height=300, planes=4, after=CANCELLED)
     pane = dialog[1002]
     left, top = (pane.size[0] - 400) // 2, (pane.size[1] - 300) // 2
-    pane.wait_color((0, 0, 0), left, top + 150)
-    wait_for(lambda: sum(pane.at(left + 390, top + 150)) > 60, "dark where it is opaque")
-    pane.screen.picture(*pane.client).save(run.file("pane.png"))
+    pane.wait_color((204, 204, 204), left, top + 6)
+    for y, grey in ((7, 255), (13, 255), (14, 204), (290, 255)):
+        equal(pane.at(left, top + y), (grey, grey, grey))
+    # Opaque, so that squares make no difference.
+    for x in range(340, 399):
+        assert pane.at(left + x, top + 150) not in ((204, 204, 204), (255, 255, 255))
+    equal(pane.at(left - 1, top + 150), (0, 0, 0))
     dialog.cancel()
 
 

@@ -173,6 +173,15 @@ class Dialog:
                               *options)
         return whole.crop(0, 0, width // 4 * 4, height)
 
+    def drag_frame(self, begin, end, frame):
+        """Held until the window follows: it takes the pointer's place when it gets to it."""
+        self.screen.press(*begin)
+        wait_for(lambda: self.run.session.ask("focus")["capture"] == self.window.number,
+                 "the frame is not taken")
+        self.screen.move(*end)
+        self.wait_frame(frame)
+        self.screen.release()
+
     def wait_frame(self, frame):
         wait_for(lambda: self.window.look().frame == frame,
                  lambda: f"the frame is {self.window.frame}, not {frame}")

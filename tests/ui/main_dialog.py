@@ -60,7 +60,9 @@ def assert_tidy(dialog):
     for item in shown:
         assert item.frame[0] >= left and item.frame[1] >= top and item.frame[2] <= right \
             and item.frame[3] <= bottom, f"{item.id} at {item.frame} is cut by {dialog.window.client}"
-    below = [dialog[number] for number in (1, 2, 999, 1000, 1001, 1002, 1003, 1004, 1022)]
+    # On fine screens the percentage's upper margin lies on the progress bar.
+    numbers = (1, 2, 999, 1000, 1001, 1002, 1003, 1022)
+    below = [dialog[number] for number in numbers + ((1004,) if dialog.run.session.dpi == 96 else ())]
     for index, one in enumerate(below):
         for other in below[index + 1:]:
             assert not overlaps(one.frame, other.frame), \
@@ -107,15 +109,15 @@ def is_resized_and_remembers_it(run):
     dialog = run.open(after=["expect setting WindowWidth 1203", "expect setting WindowHeight 804"])
     left, top, right, bottom = dialog.window.frame
     # Smaller than it may be: nothing changes.
-    run.screen.drag((right - 2, bottom - 2), (right - 300, bottom - 200))
-    dialog.wait_frame([left, top, right, bottom])
-    run.screen.drag((right - 2, bottom - 2), (right + 278, bottom + 98))
-    dialog.wait_frame([left, top, right + 280, bottom + 100])
+    dialog.drag_frame((right - 2, top + 300), (right - 300, top + 300), [left, top, right, bottom])
+    dialog.drag_frame((left + 300, bottom - 2), (left + 300, top + 90), [left, top, right, bottom])
+    dialog.drag_frame((right - 2, bottom - 2), (right + 278, bottom + 98),
+                      [left, top, right + 280, bottom + 100])
     dialog.look()
     equal(dialog[1002].size[0] % 4, 0)
     dialog.wait_pane(dialog.window_at(0, 0))
-    run.screen.drag((left + 300, top + 8), (left + 340, top + 28))
-    dialog.wait_frame([left + 40, top + 20, right + 320, bottom + 120])
+    dialog.drag_frame((left + 300, top + 8), (left + 340, top + 28),
+                      [left + 40, top + 20, right + 320, bottom + 120])
     dialog.look().ok()
     ini = run.ini()
     equal([ini[key] for key in ("tfeL", "poT", "htdW", "thgH")], [left + 40, top + 20, 1203, 804])
