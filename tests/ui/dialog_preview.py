@@ -58,7 +58,7 @@ def zoom_keeps_the_middle(run):
 def a_small_picture_stands_in_the_middle(run):
     dialog = run.open(width=200, height=150, after=CANCELLED)
     equal(buttons(dialog), [False, False])
-    dialog.wait_pane(run.aged("--scale", "1"))
+    dialog.wait_pane(run.aged())
     dialog.cancel()
 
 
@@ -108,13 +108,13 @@ def a_drag_with_control_moves_the_texture(run):
     equal(pane.picture().rgb(), before)
     run.screen.do("keydown", "ctrl")
     pane.drag((200, 200), (200, 180), lets_go=False)
-    dialog.wait_pane(dialog.window_at(0, 0, 1, "--set", "WashOffsetY1=20"))
+    dialog.wait_pane(dialog.window_at(0, 0, 1, "WashOffsetY1=20"))
     pane.screen.move(*pane.place(200, 170))
-    dialog.wait_pane(dialog.window_at(0, 0, 1, "--set", "WashOffsetY1=30"))
+    dialog.wait_pane(dialog.window_at(0, 0, 1, "WashOffsetY1=30"))
     run.screen.release()
     run.screen.do("keyup", "ctrl")
     dialog.ok()
-    equal(run.result().rgb(), run.aged("--set", "WashOffsetY1=30").rgb())
+    equal(run.result().rgb(), run.aged("WashOffsetY1=30").rgb())
 
 
 @scenario()

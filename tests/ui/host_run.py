@@ -6,9 +6,9 @@ written before it opens; its exit code then tells.
 """
 import os
 import shutil
-import subprocess
 
 from picture import assert_same, from_rgb, read_pnm
+from scenarios import equal
 from screen import wait_for
 from windows import Program
 
@@ -102,12 +102,12 @@ class HostRun:
         assert planes == 3, "only colours are read"
         return from_rgb(self.width, self.height, samples)
 
-    def aged(self, *options):
-        """What the command line makes of the picture with the same textures."""
+    def aged(self, *settings, scale=1, window=(0, 0, 0, 0)):
+        """The picture rendered anew with the same textures, without a dialog."""
         out = self.file("aged.ppm")
-        subprocess.run([self.arguments.tarnwick, "age", "--quiet", "--force", "--data",
-                        self.file("Tarnwick Studio"), *options, self.picture, "-o", out],
-                       check=True, timeout=120)
+        program = self.session.start(self.arguments.fresh_view, self.file("Tarnwick Studio"),
+                                     self.picture, out, scale, *window, *settings)
+        equal(program.wait(), 0)
         return read_pnm(out)
 
 
@@ -164,13 +164,12 @@ class Dialog:
             assert_same(seen(), want)
             raise
 
-    def window_at(self, x, y, scale=1, *options):
+    def window_at(self, x, y, scale=1, *settings):
         """What the pane has to show: a window of the aged picture, in shown pixels."""
         width, height = self[1002].size
         width = min(width, self.run.width // scale - x)
         height = min(height, self.run.height // scale - y)
-        whole = self.run.aged("--scale", str(scale), "--window", f"{x},{y},{width},{height}",
-                              *options)
+        whole = self.run.aged(*settings, scale=scale, window=(x, y, width, height))
         return whole.crop(0, 0, width // 4 * 4, height)
 
     def drag_frame(self, begin, end, frame):

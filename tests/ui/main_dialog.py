@@ -1,10 +1,10 @@
 """The main dialog in the test host, with a real pointer and real keys.
 
 Usage: main_dialog.py --wine32 TOOL --agent EXE --host EXE --module FILE --data FOLDER
-           --lists FOLDER --tarnwick PROGRAM --shots FOLDER [NAME...]
+           --lists FOLDER --fresh-view EXE --shots FOLDER [NAME...]
 
-PROGRAM ages the same picture with the same textures on the command line: what the
-pane shows has to be the same, pixel for pixel.
+The fresh view renders the same picture with the same textures, as the command line
+does: what the pane shows has to be the same, pixel for pixel.
 """
 import os
 
@@ -209,7 +209,7 @@ def opens_often_and_leaves_nothing(run):
 
 
 def add_arguments(parser):
-    for name in ("host", "module", "data", "lists", "tarnwick"):
+    for name in ("host", "module", "data", "lists", "fresh-view"):
         parser.add_argument("--" + name, required=True)
 
 
