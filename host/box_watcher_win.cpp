@@ -32,6 +32,15 @@ bool IsModuleDialog(HWND box) {
   return std::strcmp(caption, "Tarnwick Studio") == 0 && GetDlgItem(box, IDCANCEL) != nullptr;
 }
 
+// The command by which controls of the dialog ask for a new preview.
+constexpr WPARAM kRefresh = 1008;
+constexpr int kRefreshes = 10;
+
+void RefreshAndCancel(HWND dialog) {
+  for (int i = 0; i < kRefreshes; ++i) PostMessageA(dialog, WM_COMMAND, kRefresh, 0);
+  PostMessageA(dialog, WM_COMMAND, IDCANCEL, 0);
+}
+
 // The static control of a message box that holds its text.
 constexpr int kBoxText = 0xFFFF;
 
@@ -43,7 +52,7 @@ LRESULT CALLBACK OnActivation(int code, WPARAM wParam, LPARAM lParam) {
     const HWND label = GetDlgItem(box, kBoxText);
     const bool isDialog = std::strcmp(className, "#32770") == 0 && WatchedLog() != nullptr;
     if (isDialog && IsModuleDialog(box)) {
-      if (!AreDialogsLeft()) PostMessageA(box, WM_COMMAND, IDCANCEL, 0);
+      if (!AreDialogsLeft()) RefreshAndCancel(box);
     } else if (isDialog && IsAboutBox(box)) {
       ++WatchedLog()->aboutsShown;
       if (!AreDialogsLeft()) PostMessageA(box, WM_COMMAND, IDOK, 0);

@@ -4,7 +4,8 @@
 namespace tarnwick::testhost {
 
 // Answers the message boxes of this thread: notes their texts and presses OK. The
-// module's dialog, if it shows, is cancelled. One watcher at a time.
+// module's dialog, if it shows, renders its preview some times and is cancelled. One watcher at a
+// time.
 class BoxWatcher {
  public:
   explicit BoxWatcher(HostLog& log);

@@ -20,7 +20,7 @@ bool IsToFail(int& countdown) {
 }  // namespace
 
 HandleStore::~HandleStore() {
-  for (Place& place : left_) UnpoisonMemory(place.bytes.get(), place.size);
+  DropLeft();
   for (auto& [handle, block] : blocks_) UnpoisonMemory(block->place.bytes.get(), block->place.size);
 }
 
@@ -121,6 +121,11 @@ bool HandleStore::Knows(host::Handle handle) const {
 std::size_t HandleStore::Locked() const {
   return static_cast<std::size_t>(std::count_if(
       blocks_.begin(), blocks_.end(), [](const auto& entry) { return entry.second->locks != 0; }));
+}
+
+void HandleStore::DropLeft() {
+  for (Place& place : left_) UnpoisonMemory(place.bytes.get(), place.size);
+  left_.clear();
 }
 
 std::vector<std::string> HandleStore::TakeFaults() {

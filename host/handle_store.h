@@ -37,6 +37,9 @@ class HandleStore {
   // Checks the poison of everything; faults since the last call.
   [[nodiscard]] std::vector<std::string> TakeFaults();
 
+  // Frees what blocks have left, which is poison until then.
+  void DropLeft();
+
   // The `nth` request from now on fails, counting from 1; 0: none.
   void FailNew(int nth) { failNew_ = nth; }
   void FailLock(int nth) { failLock_ = nth; }

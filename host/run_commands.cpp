@@ -62,11 +62,12 @@ void OpenOften(ScenarioRun& run, int times) {
     request.playInfo = host::plugInDialogDisplay;
     run.Invoke(request);
     run.errorIsOpen = false;
+    run.Host().handles.DropLeft();
     if (run.lastError != host::userCanceledErr) throw ScenarioError("the dialog was not cancelled");
   }
 }
 
-// open NUMBER dialogs: one after the other, each cancelled as soon as it shows. They
+// open NUMBER dialogs: one after the other, each cancelled after ten refreshes. They
 // leave no graphics object and no window behind, and less than a kilobyte each.
 void OpenDialogs(ScenarioRun& run, Words& words) {
   const int times = words.NextInt("number");
