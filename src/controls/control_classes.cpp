@@ -80,10 +80,9 @@ bool RegisterRow(const ClassRow& row, HINSTANCE instance) {
 }  // namespace
 
 bool RegisterControlClasses(HINSTANCE instance) {
-  for (const ClassRow& row : kClasses) {
-    if (!RegisterRow(row, instance)) return false;
-  }
-  return true;
+  bool isWhole = true;
+  for (const ClassRow& row : kClasses) isWhole = RegisterRow(row, instance) && isWhole;
+  return isWhole;
 }
 
 void UnregisterControlClasses(HINSTANCE instance) {

@@ -19,7 +19,7 @@ inline constexpr char kDrawerClass[] = "DexDrawerClass";
 
 // Registers all classes for the module, before a dialog that names them is made,
 // and takes them away after it. Needs the shared brushes. False when one of them
-// cannot be registered; those before it are there then.
+// cannot be registered; the others are there then.
 [[nodiscard]] bool RegisterControlClasses(HINSTANCE instance);
 void UnregisterControlClasses(HINSTANCE instance);
 

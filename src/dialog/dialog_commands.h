@@ -3,7 +3,7 @@
 namespace tarnwick {
 
 // Ids of the main dialog's controls and commands. The dialog's own template names
-// them by number: src/resources/main_dialog.rc.
+// them by number: src/resources/dialogs.rc.
 
 inline constexpr int kZoomIn = 1000;
 inline constexpr int kZoomOut = 1001;

@@ -77,11 +77,14 @@ INT_PTR MainDialog::Answer(HWND window, UINT message, WPARAM wParam, LPARAM lPar
   try {
     return Dispatch(message, wParam, lParam);
   } catch (...) {
-    // The run ends with it, as soon as the window has gone.
-    fault_ = std::current_exception();
-    EndDialog(window, IDCANCEL);
+    Fail();
     return FALSE;
   }
+}
+
+void MainDialog::Fail() {
+  fault_ = std::current_exception();
+  EndDialog(window_, IDCANCEL);
 }
 
 INT_PTR MainDialog::Dispatch(UINT message, WPARAM wParam, LPARAM lParam) {

@@ -27,7 +27,8 @@ class MainDialog {
   MainDialog(const MainDialog&) = delete;
   MainDialog& operator=(const MainDialog&) = delete;
 
-  // Opens the window over `owner` and returns what it ended with: IDOK or IDCANCEL.
+  // Opens the window over `owner` and returns what it ended with: IDOK or IDCANCEL,
+  // or -1 where it could not be opened.
   // Throws what a message has thrown, since nothing may pass through the system.
   INT_PTR Run(HINSTANCE instance, HWND owner);
 
@@ -48,6 +49,8 @@ class MainDialog {
     HWND window = nullptr;
   };
 
+  // Notes what is being thrown and closes the window: the run ends with it.
+  void Fail();
   INT_PTR Dispatch(UINT message, WPARAM wParam, LPARAM lParam);
 
   // main_dialog_start.cpp
@@ -97,6 +100,7 @@ class MainDialog {
   HINSTANCE instance_ = nullptr;
   HWND window_ = nullptr;
   std::exception_ptr fault_;
+  bool isStarted_ = false;
 
   int screenDpi_ = 96;
   float dpiFactor_ = 1;

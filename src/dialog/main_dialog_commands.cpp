@@ -116,7 +116,9 @@ void MainDialog::SettingsChanged() {
 }
 
 void MainDialog::Zoom(int command) {
-  if (!preview_) return;
+  // Hot keys come through a message box too, which a render that is under way may have
+  // brought up: its buffers must not change below it.
+  if (!preview_ || IsWindowEnabled(window_) == FALSE) return;
   const PaneSize pane = PaneNow();
   switch (command) {
     case kZoomIn:
@@ -215,8 +217,16 @@ void MainDialog::SelectTab() {
 }
 
 void MainDialog::SetZoomButtons(ZoomButtons buttons) {
-  EnableWindow(Item(kZoomIn), buttons.canZoomIn ? TRUE : FALSE);
-  EnableWindow(Item(kZoomOut), buttons.canZoomOut ? TRUE : FALSE);
+  const HWND zoomIn = Item(kZoomIn);
+  const HWND zoomOut = Item(kZoomOut);
+  const HWND focus = GetFocus();
+  // A disabled control would keep the keys to itself, Enter and Escape among them.
+  if (focus != nullptr &&
+      ((focus == zoomIn && !buttons.canZoomIn) || (focus == zoomOut && !buttons.canZoomOut))) {
+    SendMessageA(window_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Item(IDOK)), TRUE);
+  }
+  EnableWindow(zoomIn, buttons.canZoomIn ? TRUE : FALSE);
+  EnableWindow(zoomOut, buttons.canZoomOut ? TRUE : FALSE);
 }
 
 void MainDialog::PrintPercentage() {

@@ -43,7 +43,9 @@ INT_PTR MainDialog::Erase(HDC dc) {
   };
   leaveOut(layout_.pane);
   leaveOut(layout_.tabs);
-  leaveOut({0, 0, frame_.width, kHeaderHeight});
+  if (bitmaps_.Load(instance_, TARNWICK_ART_BAND_TILE) != nullptr) {
+    leaveOut({0, 0, frame_.width, kHeaderHeight});
+  }
   leaveOut({frame_.previewLeft, layout_.upperStripTop, layout_.pane.width, kStripRows});
   leaveOut({frame_.previewLeft, layout_.lowerStripTop, layout_.pane.width, kStripRows});
   RECT client{};

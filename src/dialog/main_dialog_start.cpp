@@ -107,16 +107,24 @@ void MainDialog::Start() {
   if (pane_ != nullptr) {
     pane_->openHand = openHand_;
     pane_->closedHand = closedHand_;
-    pane_->moveOffset = [this](int dx, int dy) { MoveOffset(dx, dy); };
+    // The pane's own procedure calls it, so nothing may be thrown out of it.
+    pane_->moveOffset = [this](int dx, int dy) {
+      try {
+        MoveOffset(dx, dy);
+      } catch (...) {
+        Fail();
+      }
+    };
   }
   MakeTabs();
   ShowOptions();
   EnableOptions();
   SkinHeader();
-  AddTips();
   PutWindow();
+  AddTips();
   OpenPreview();
   cancelSnapshot_ = lastUsedSnapshot_ = settings;
+  isStarted_ = true;
 }
 
 void MainDialog::MakeOptions() {
@@ -129,11 +137,7 @@ void MainDialog::MakeOptions() {
     TContaner* const label = CreateLabelControl(0, 0, width, kLabelHeight, window_, option.labelId,
                                                 option.text, true, true);
     optionLabels_[i] = label;
-    if (label != nullptr) {
-      label->style = kTrackingLabel;
-      AddToolTip(label->window, option.tip, nullptr);
-    }
-    AddToolTip(Item(option.boxId), option.tip, nullptr);
+    if (label != nullptr) label->style = kTrackingLabel;
   }
 }
 
@@ -186,8 +190,13 @@ void MainDialog::SkinHeader() {
   show(kRightHeader, TARNWICK_ART_BAND_RIGHT);
 }
 
+// A tip covers its control as large as that is now: after all have their sizes.
 void MainDialog::AddTips() {
   for (const Tip& tip : kTips) AddToolTip(Item(tip.id), tip.text, nullptr);
+  for (const NewLayerOption& option : kNewLayerOptions) {
+    AddToolTip(Item(option.boxId), option.tip, nullptr);
+    AddToolTip(Item(option.labelId), option.tip, nullptr);
+  }
 }
 
 void MainDialog::PutWindow() {
@@ -222,13 +231,16 @@ void MainDialog::Finish() {
   g_.DialogActive = 0;
   UnregisterHotKeys(window_);
   if (help_) help_->Stop();
-  RECT place{};
-  GetWindowRect(window_, &place);
-  EffectSettings& settings = *g_.gParams;
-  settings.WindowLeft = place.left;
-  settings.WindowTop = place.top;
-  settings.WindowWidth = place.right - place.left;
-  settings.WindowHeight = place.bottom - place.top;
+  // One that never came up, or is only an icon now, has no place worth keeping.
+  if (isStarted_ && IsIconic(window_) == FALSE) {
+    RECT place{};
+    GetWindowRect(window_, &place);
+    EffectSettings& settings = *g_.gParams;
+    settings.WindowLeft = place.left;
+    settings.WindowTop = place.top;
+    settings.WindowWidth = place.right - place.left;
+    settings.WindowHeight = place.bottom - place.top;
+  }
   pane_ = nullptr;
   preview_.reset();
   FreeDocumentLayers(g_);

@@ -34,6 +34,13 @@ void Paint(const TPreviewContaner& pane) {
              pane.imageWidth, pane.imageHeight, 0, 0);
 }
 
+// Without the hand the pointer stays as it is; a null one would hide it.
+bool SetHand(HCURSOR hand) {
+  if (hand == nullptr) return false;
+  SetCursor(hand);
+  return true;
+}
+
 void BeginDrag(TPreviewContaner& pane, WPARAM keys, PointerPlace at) {
   pane.ctrlDrag = (keys & MK_CONTROL) != 0 ? 1 : 0;
   pane.isDragging = true;
@@ -41,7 +48,7 @@ void BeginDrag(TPreviewContaner& pane, WPARAM keys, PointerPlace at) {
   pane.dragLastY = pane.dragCurrentY = at.y;
   pane.dragShiftX = pane.dragShiftY = 0;
   SetCapture(pane.window);
-  if (pane.ctrlDrag == 0) SetCursor(pane.closedHand);
+  if (pane.ctrlDrag == 0) SetHand(pane.closedHand);
 }
 
 void Drag(TPreviewContaner& pane, PointerPlace at) {
@@ -69,7 +76,7 @@ void EndDrag(TPreviewContaner& pane) {
   pane.panX -= pane.dragShiftX;
   pane.panY -= pane.dragShiftY;
   pane.dragShiftX = pane.dragShiftY = 0;
-  SetCursor(pane.openHand);
+  SetHand(pane.openHand);
   SendMessageA(GetParent(pane.window), WM_COMMAND, MAKEWPARAM(pane.id, kPanEnded), 0);
 }
 
@@ -89,8 +96,7 @@ void PressRight(TPreviewContaner& pane) {
 
 bool ShowHand(const TPreviewContaner& pane) {
   if (GetKeyState(VK_CONTROL) < 0) return false;
-  SetCursor(pane.isDragging ? pane.closedHand : pane.openHand);
-  return true;
+  return SetHand(pane.isDragging ? pane.closedHand : pane.openHand);
 }
 
 LRESULT HandlePane(TPreviewContaner& pane, UINT message, WPARAM wParam, LPARAM lParam) {
