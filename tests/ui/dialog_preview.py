@@ -41,6 +41,19 @@ def zoom_steps_by_buttons_and_keys(run):
 
 
 @scenario()
+def keys_go_on_when_a_zoom_button_is_disabled(run):
+    """The button that has been clicked has the focus; at its last step it loses it."""
+    dialog = run.open(width=900, height=600, after=CANCELLED)
+    while dialog[1001].look().enabled:
+        before = dialog[1003].look().text
+        dialog[1001].click()
+        wait_for(lambda: dialog[1003].look().text != before, "no step")
+    wait_for(dialog[1].has_focus, "OK has not got the focus")
+    run.screen.key("Escape")
+    run.finish()
+
+
+@scenario()
 def zoom_keeps_the_middle(run):
     dialog = run.open(after=CANCELLED)
     width, height = dialog[1002].size
