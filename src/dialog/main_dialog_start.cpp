@@ -3,6 +3,8 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
+
 #include "controls/color_swatch.h"
 #include "controls/control_button.h"
 #include "controls/control_classes.h"
@@ -65,6 +67,8 @@ constexpr int kPageArt[] = {
     TARNWICK_ART_LINKED,       TARNWICK_ART_LINKED_HOVER,       TARNWICK_ART_LINKED_DISABLED,
     TARNWICK_ART_LINK,         TARNWICK_ART_LINK_HOVER,         TARNWICK_ART_LINK_DISABLED,
 };
+
+constexpr int kFarthest = 100000;
 
 int DpiOfScreen() {
   const HDC screen = GetDC(nullptr);
@@ -201,8 +205,12 @@ void MainDialog::AddTips() {
 
 void MainDialog::PutWindow() {
   const EffectSettings& settings = *g_.gParams;
-  RECT place = {settings.WindowLeft, settings.WindowTop, settings.WindowLeft + settings.WindowWidth,
-                settings.WindowTop + settings.WindowHeight};
+  // Farther than any screen; a file may hold any number.
+  const auto within = [](std::int32_t value) { return std::clamp(value, -kFarthest, kFarthest); };
+  const int left = within(settings.WindowLeft);
+  const int top = within(settings.WindowTop);
+  RECT place = {left, top, left + within(settings.WindowWidth),
+                top + within(settings.WindowHeight)};
   // A screen that has gone takes its windows along: start where there is one.
   if (MonitorFromRect(&place, MONITOR_DEFAULTTONULL) == nullptr) {
     OffsetRect(&place, -place.left, -place.top);
