@@ -1,5 +1,7 @@
 // tarnwick-art make SOURCES FONTS OUT: draws every bitmap, icon and cursor of the module
 // into the folder OUT, with the resource script art.rc that names them.
+// tarnwick-art page SOURCES FONTS OUT PICTURES: the same, then the sheets of docs/art.md
+// into the folder PICTURES, and its text to the standard output.
 // Runs on the machine that builds; rsvg-convert has to be there.
 #include <cmath>
 #include <cstdio>
@@ -7,6 +9,7 @@
 #include <stdexcept>
 #include <string_view>
 
+#include "resources/art_generator/art_page.h"
 #include "resources/art_generator/art_table.h"
 #include "resources/art_generator/drawing.h"
 
@@ -66,12 +69,18 @@ void Make(const ArtFolders& folders) {
 }  // namespace tarnwick
 
 int main(int argc, char** argv) {
-  if (argc != 5 || std::string_view(argv[1]) != "make") {
-    std::fputs("usage: tarnwick-art make SOURCES FONTS OUT\n", stderr);
+  const std::string_view job = argc > 1 ? argv[1] : "";
+  if (!(job == "make" && argc == 5) && !(job == "page" && argc == 6)) {
+    std::fputs(
+        "usage: tarnwick-art make SOURCES FONTS OUT\n"
+        "       tarnwick-art page SOURCES FONTS OUT PICTURES\n",
+        stderr);
     return 2;
   }
   try {
-    tarnwick::Make({argv[2], argv[3], argv[4]});
+    const tarnwick::ArtFolders folders{argv[2], argv[3], std::filesystem::absolute(argv[4])};
+    tarnwick::Make(folders);
+    if (job == "page") std::fputs(tarnwick::ArtPage(folders, argv[5]).c_str(), stdout);
     return 0;
   } catch (const std::exception& error) {
     std::fprintf(stderr, "tarnwick-art: %s\n", error.what());
