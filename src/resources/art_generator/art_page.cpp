@@ -75,7 +75,7 @@ std::vector<ArtBitmap> StatesOf(const std::string& source) {
 }
 
 std::string PictureName(int id) {
-  return "bitmap_" + std::to_string(id);
+  return "bitmap_" + std::to_string(id) + ".bmp";
 }
 
 // A row a control: at 1:1 with number and state below, then small ones at twice the size.
@@ -152,7 +152,7 @@ SheetDrawing DrawIcons() {
     int x = 16;
     int tallest = 0;
     for (const int side : art.isCursor ? CursorSides() : IconSides()) {
-      sheet.PutPicture(name + "_" + std::to_string(side), x, y, side, side);
+      sheet.PutPicture(name + "_" + std::to_string(side) + ".png", x, y, side, side);
       x += side + 16;
       tallest = side;
     }

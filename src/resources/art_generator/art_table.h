@@ -11,7 +11,10 @@ struct ArtBitmap {
   int id;
   const char* source;   // in src/resources/art, without ".svg"
   const char* classes;  // of the root: "normal", or what differs from it
-  int width, height;    // pixels; those of the source
+  int width, height;    // pixels; those of the source, unless it is cut out of one
+  // Where in the source, of a button that is drawn on the whole of what it lies on: moved
+  // drawing rounds here and there to another shade, and its outline would show.
+  int cutLeft = 0, cutTop = 0;
 };
 
 // An icon or a cursor: one source, drawn at several sizes. Up to `smallUpTo` pixels a

@@ -23,12 +23,14 @@ std::string ScriptLine(int id, const char* kind, const std::string& file) {
 
 std::string MakeBitmap(const ArtFolders& folders, const ArtBitmap& art) {
   const std::string name = "bitmap_" + std::to_string(art.id);
-  const ArtPicture picture =
+  const ArtPicture drawn =
       DecodePng(DrawPng(folders, name, ArtSource(folders, art.source, art.classes)));
-  if (picture.width != art.width || picture.height != art.height) {
-    throw std::runtime_error(std::string(art.source) + ".svg: is " + std::to_string(picture.width) +
-                             " x " + std::to_string(picture.height));
+  const bool isCut = art.cutLeft != 0 || art.cutTop != 0;
+  if (!isCut && (drawn.width != art.width || drawn.height != art.height)) {
+    throw std::runtime_error(std::string(art.source) + ".svg: is " + std::to_string(drawn.width) +
+                             " x " + std::to_string(drawn.height));
   }
+  const ArtPicture picture = CutOut(drawn, art.cutLeft, art.cutTop, art.width, art.height);
   WriteWholeFile(folders.out / (name + ".bmp"), EncodeBitmap(picture));
   return ScriptLine(art.id, "BITMAP", name + ".bmp");
 }

@@ -21,6 +21,9 @@ struct ArtPicture {
 // Reads a PNG with 8-bit RGB or RGBA samples, not interlaced. An exception for all others.
 [[nodiscard]] ArtPicture DecodePng(const std::string& bytes);
 
+// A part of a picture. An exception if it reaches beyond.
+[[nodiscard]] ArtPicture CutOut(const ArtPicture& from, int left, int top, int width, int height);
+
 // A 24-bit bitmap file. An exception if some pixel is not opaque: such a source leaves
 // a hole that would come out black.
 [[nodiscard]] std::string EncodeBitmap(const ArtPicture& picture);

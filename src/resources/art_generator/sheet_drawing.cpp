@@ -17,9 +17,9 @@ void SheetDrawing::Reach(int x, int y) {
   height_ = std::max(height_, y + margin_);
 }
 
-void SheetDrawing::PutPicture(const std::string& name, int x, int y, int width, int height,
+void SheetDrawing::PutPicture(const std::string& file, int x, int y, int width, int height,
                               int times) {
-  body_ += "<image href=\"" + name + ".png\" " + Box(x, y, width * times, height * times) +
+  body_ += "<image href=\"" + file + "\" " + Box(x, y, width * times, height * times) +
            " style=\"image-rendering:pixelated\"/>\n";
   Reach(x + width * times, y + height * times);
 }

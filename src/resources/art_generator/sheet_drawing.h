@@ -8,8 +8,8 @@ class SheetDrawing {
  public:
   SheetDrawing(const char* ground, int margin) : ground_(ground), margin_(margin) {}
 
-  // One of the PNGs in the folder of the sheet, at a whole multiple of its size.
-  void PutPicture(const std::string& name, int x, int y, int width, int height, int times = 1);
+  // A picture in the folder of the sheet, at a whole multiple of its size.
+  void PutPicture(const std::string& file, int x, int y, int width, int height, int times = 1);
   void PutText(const std::string& text, int x, int y, const char* color, int weight = 400);
   void PutRectangle(int x, int y, int width, int height, const char* color);
 

@@ -51,6 +51,18 @@ std::string IconEntry(const IconImage& image) {
 
 }  // namespace
 
+ArtPicture CutOut(const ArtPicture& from, int left, int top, int width, int height) {
+  if (left < 0 || top < 0 || left + width > from.width || top + height > from.height) {
+    throw std::runtime_error("is too small to cut this out of it");
+  }
+  ArtPicture part{width, height, {}};
+  for (int y = 0; y < height; ++y) {
+    const std::uint8_t* const row = from.At(left, top + y);
+    part.samples.insert(part.samples.end(), row, row + 4 * static_cast<std::size_t>(width));
+  }
+  return part;
+}
+
 std::string EncodeBitmap(const ArtPicture& picture) {
   std::string pixels;
   for (int y = picture.height; y-- > 0;) {
