@@ -3,12 +3,16 @@
 
 #include <array>
 #include <exception>
+#include <functional>
 #include <memory>
 
 #include "dialog/bitmap_set.h"
+#include "dialog/effect_tabs.h"
 #include "dialog/help_viewer.h"
 #include "dialog/models/dialog_layout.h"
+#include "dialog/models/effect_strip.h"
 #include "dialog/models/effect_views.h"
+#include "dialog/models/strip_commands.h"
 #include "dialog/preview/live_preview.h"
 #include "dialog/preview_pane.h"
 #include "dialog/shadow_strips.h"
@@ -16,6 +20,10 @@
 #include "filter/filter_globals.h"
 
 namespace tarnwick {
+
+// What the current page has to do after the strip: show the settings, or only see
+// anew what of it can be used.
+enum class PageUpdate { kShowSettings, kEnable };
 
 // The module's modal window: a header, the tab control with its pages, the preview
 // pane, and OK, Cancel and zoom below it. There is one at a time, on the host's
@@ -40,6 +48,8 @@ class MainDialog {
   void SettingsChanged();
   // While a drawer is open nothing else of the dialog can be used.
   void SetBusy(bool isBusy);
+  // After something but the strip has written the settings: the strip follows them.
+  void SyncStrip();
 
  private:
   // The bar under the pane as the render's progress.
@@ -89,6 +99,14 @@ class MainDialog {
   void HotKey(WPARAM key);
   void SelectTab();
 
+  // main_dialog_strip.cpp
+  void MakeStrip();
+  void ShowEffectTabs();
+  void ChooseInStrip(int command);
+  void ResetPressed();
+  void DoLayerWork(LayerWork work);
+  void UpdatePage(PageUpdate update);
+
   [[nodiscard]] HWND Item(int id) const { return GetDlgItem(window_, id); }
   [[nodiscard]] PaneSize PaneNow() const;
   void SetZoomButtons(ZoomButtons buttons);
@@ -110,6 +128,10 @@ class MainDialog {
   EffectSettings cancelSnapshot_;
   EffectSettings lastUsedSnapshot_;
   EffectViews views_;
+  StripFrame stripFrame_;
+  EffectTabs effectTabs_;
+  // The page's answer; none as long as there is no page.
+  std::function<void(PageUpdate)> updatePage_;
 
   Bar bar_;
   std::unique_ptr<LivePreview> preview_;

@@ -45,6 +45,8 @@ INT_PTR MainDialog::Command(WPARAM wParam, LPARAM lParam) {
     if (id == kNewLayerOptions[i].labelId) return ClickLabel(i), TRUE;
     if (id == kNewLayerOptions[i].boxId) return ClickBox(), TRUE;
   }
+  if (id >= kViewComposite && id <= kDeleteWashOne) return ChooseInStrip(id), TRUE;
+  if (id >= kResetAll && id <= kResetBackground) return ResetPressed(), TRUE;
   switch (id) {
     case IDOK:
       Ok(notification);
@@ -212,7 +214,7 @@ void MainDialog::SelectTab() {
   const auto tab = static_cast<int>(SendMessageA(tabs_, TCM_GETCURSEL, 0, 0));
   if (tab < 0 || tab >= kTabs) return;
   views_.currentTab = static_cast<std::uint8_t>(tab);
-  ShowOptions();
+  ShowEffectTabs();
   SendMessageA(window_, WM_COMMAND, kSettingsChanged, 0);
 }
 
@@ -243,6 +245,8 @@ void MainDialog::TakePan() {
 void MainDialog::SetBusy(bool isBusy) {
   constexpr int kBusyItems[] = {IDOK, IDCANCEL, kTabControl, kManual, kViewAll, kAuto, kAbout};
   for (const int id : kBusyItems) EnableWindow(Item(id), isBusy ? FALSE : TRUE);
+  effectTabs_.Enable(!isBusy);
+  if (!isBusy) ShowEffectTabs();
 }
 
 }  // namespace tarnwick

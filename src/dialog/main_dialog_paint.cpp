@@ -1,6 +1,5 @@
 // What the main dialog paints itself: the header's tile and the strips round the pane.
 #include <algorithm>
-#include <iterator>
 
 #include "controls/back_buffer.h"
 #include "controls/control_shared.h"
@@ -15,7 +14,6 @@ namespace {
 constexpr int kTileLeft = 453;
 constexpr int kTileWidth = 4;
 constexpr int kHeaderHeight = 71;
-constexpr int kSeparators[] = {604, 608, 612, 616};  // of the view strip
 constexpr COLORREF kSeparatorColor = 0x7F7F7F;
 
 void PaintTiles(HDC dc, HBITMAP tile, int width) {
@@ -59,7 +57,7 @@ INT_PTR MainDialog::Erase(HDC dc) {
 INT_PTR MainDialog::ColorStatic(HDC dc, HWND control) const {
   const int id = GetDlgCtrlID(control);
   const bool isSeparator =
-      std::find(std::begin(kSeparators), std::end(kSeparators), id) != std::end(kSeparators);
+      std::find(kStripSeparators.begin(), kStripSeparators.end(), id) != kStripSeparators.end();
   const bool isBox = std::any_of(kNewLayerOptions.begin(), kNewLayerOptions.end(),
                                  [id](const NewLayerOption& option) { return option.boxId == id; });
   if (!isSeparator && !isBox) return FALSE;

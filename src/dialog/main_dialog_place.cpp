@@ -59,6 +59,8 @@ void MainDialog::Place() {
   }
   // As wide as the pane, which is rounded up.
   strips_.SetWidth(layout_.pane.width);
+  stripFrame_.previewRight = layout_.previewRight;
+  effectTabs_.Show(LayoutStrip(stripFrame_, views_), ButtonOfView(views_.Current()));
   if (preview_) PrintPercentage();
   InvalidateRect(window_, nullptr, TRUE);
 }

@@ -121,6 +121,7 @@ void MainDialog::Start() {
     };
   }
   MakeTabs();
+  MakeStrip();
   ShowOptions();
   EnableOptions();
   SkinHeader();
@@ -152,6 +153,11 @@ void MainDialog::FindFrame() {
   frame_.dpi = screenDpi_;
   frame_.previewLeft = PreviewLeftFor(pane.left, screenDpi_);
   frame_.previewTop = pane.top;
+  RECT strip{};
+  GetWindowRect(Item(kPaneFrame), &strip);
+  MapWindowPoints(nullptr, window_, reinterpret_cast<POINT*>(&strip), 2);
+  const StripOrigin origin = StripOriginFor(strip.left, strip.top, frame_.previewTop, screenDpi_);
+  stripFrame_ = {origin.x, origin.y, 0, screenDpi_};
 }
 
 void MainDialog::MakeTabs() {

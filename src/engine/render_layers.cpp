@@ -13,6 +13,8 @@ bool Names(const char (&name)[kTextureNameSize]) {
   return std::strncmp(name, kNoTextureName, kTextureNameSize) != 0;
 }
 
+}  // namespace
+
 void DeriveSwitches(EffectSettings& s) {
   s.WashUse = Names(s.WashFileName1) || (s.SecondWashExists != 0 && Names(s.WashFileName2)) ? 1 : 0;
   s.SurfaceUse =
@@ -20,8 +22,6 @@ void DeriveSwitches(EffectSettings& s) {
                                                                                              : 0;
   s.BackgroundUse = Names(s.BackgroundFileName) ? 1 : 0;
 }
-
-}  // namespace
 
 void CreateLayers(EffectLayers& layers, RenderState& state, EffectSettings& settings,
                   const SettingsSession& session) {

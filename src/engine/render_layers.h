@@ -6,10 +6,13 @@
 namespace tarnwick {
 
 // Configures the layers that take part, allocates the surface's
-// buffer, and derives WashUse, SurfaceUse and BackgroundUse from the texture
-// names: a group is on if one of its textures is not "No_Texture.twk".
+// buffer, and derives the switches of the groups.
 void CreateLayers(EffectLayers& layers, RenderState& state, EffectSettings& settings,
                   const SettingsSession& session);
+
+// WashUse, SurfaceUse and BackgroundUse from the texture names: a group is on if one
+// of its textures is not "No_Texture.twk".
+void DeriveSwitches(EffectSettings& settings);
 
 // Gives back the layers' images and all buffers of the render. The washes'
 // edgeSamples stay while state.deferWash is set: a later pass needs them.

@@ -15,6 +15,10 @@ inline constexpr int kTabs = 4;
 // What the pane shows on each page. A page keeps its view while others are up.
 struct EffectViews {
   std::uint8_t currentTab = kBasicTab;
+  // The strip above the pane shows a second one. What the settings say may have
+  // changed since; see SyncViews.
+  bool hasSecondWash = false;
+  bool hasSecondSurface = false;
   ViewMode basicView = ViewMode::kComposite;
   ViewMode washView = ViewMode::kComposite;
   ViewMode surfaceView = ViewMode::kComposite;

@@ -198,11 +198,26 @@ PanePicture LivePreview::BuildPaneImage(PaneSize pane) const {
   return picture;
 }
 
-void LivePreview::RemakeLayers() {
+void LivePreview::RemakeLayers(KeptLayers kept) {
+  EffectLayers& layers = g_.layers;
+  EffectSettings& settings = *g_.gParams;
+  // Dropped before any is made, so that their memory is there for the new ones.
+  if (!kept.washes) layers.washes = {};
+  if (!kept.surfaces) layers.surfaces = {};
+  if (!kept.background) layers.background = EffectLayer{};
   WithinMemory(g_, [&] {
-    g_.layers = EffectLayers{};
-    CreateLayers(g_.layers, g_.render, *g_.gParams, g_.session);
+    if (!kept.washes) {
+      (void)ConfigureWash(layers.washes[0], g_.render, settings, g_.session, false);
+      if (settings.SecondWashExists != 0) MakeSecondWash();
+    }
+    if (!kept.background) (void)ConfigureBackground(layers.background, g_.render, settings);
+    if (!kept.surfaces) {
+      (void)ConfigureSurface(layers.surfaces[0], g_.render, settings, g_.session, false);
+      if (settings.SecondSurfaceExists != 0) MakeSecondSurface();
+    }
+    AllocateSurfaceBuffers(g_.render);
   });
+  DeriveSwitches(settings);
 }
 
 void LivePreview::MakeSecondWash() {

@@ -5,6 +5,7 @@
 
 #include "base/progress.h"
 #include "base/thread_pool.h"
+#include "dialog/models/kept_layers.h"
 #include "dialog/models/pane_zoom.h"
 #include "dialog/preview/preview_pixels.h"
 #include "engine/view_mode.h"
@@ -71,6 +72,8 @@ class LivePreview {
   bool MoveActiveOffset(EffectPage page, ViewMode view, int dx, int dy);
   // Called by MoveActiveOffset with the kind that has moved, for what is linked to it.
   void SetLinkPropagation(std::function<void(LayerKind)> propagate);
+  // The same for a kind that has changed in another way.
+  void PropagateLinks(LayerKind kind);
 
   // Renders `view` of what is shown; only what is stale is computed. Clears the
   // markers of new layers, and *g.gResult unless the document's mode is unsupported.
@@ -82,9 +85,9 @@ class LivePreview {
   [[nodiscard]] const PaneZoom& Zoom() const { return zoom_; }
   [[nodiscard]] PaneSize Document() const { return document_; }
 
-  // All layers anew from the settings, for a preset or a reset. Derives the three
-  // group switches from the texture names.
-  void RemakeLayers();
+  // Layers anew from the settings, for a preset or a reset: all but those that stay.
+  // Derives the three group switches from the texture names.
+  void RemakeLayers(KeptLayers kept = {});
   // The second of a pair from the settings: made when it is added, dropped when it is
   // deleted. The caller sets SecondWashExists or SecondSurfaceExists.
   void MakeSecondWash();

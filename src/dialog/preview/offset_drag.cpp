@@ -50,12 +50,16 @@ bool LivePreview::MoveActiveOffset(EffectPage page, ViewMode view, int dx, int d
   MoveOffset(*holder.layer, g_.render, InDocument(dx, scale), InDocument(dy, scale));
   *holder.x = holder.layer->offsetX;
   *holder.y = holder.layer->offsetY;
-  if (propagate_) propagate_(holder.layer->kind);
+  PropagateLinks(holder.layer->kind);
   return true;
 }
 
 void LivePreview::SetLinkPropagation(std::function<void(LayerKind)> propagate) {
   propagate_ = std::move(propagate);
+}
+
+void LivePreview::PropagateLinks(LayerKind kind) {
+  if (propagate_) propagate_(kind);
 }
 
 }  // namespace tarnwick
