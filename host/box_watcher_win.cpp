@@ -60,7 +60,9 @@ LRESULT CALLBACK OnActivation(int code, WPARAM wParam, LPARAM lParam) {
       char text[2048] = {};
       GetWindowTextA(label, text, sizeof text);
       WatchedLog()->boxes.emplace_back(text);
-      PostMessageA(box, WM_COMMAND, IDOK, 0);
+      // Only a user knows the answer to a question.
+      const bool isQuestion = GetDlgItem(box, IDYES) != nullptr;
+      if (!isQuestion || !AreDialogsLeft()) PostMessageA(box, WM_COMMAND, IDOK, 0);
     }
   }
   return CallNextHookEx(nullptr, code, wParam, lParam);

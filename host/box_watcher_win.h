@@ -13,7 +13,7 @@ class BoxWatcher {
   BoxWatcher(const BoxWatcher&) = delete;
   BoxWatcher& operator=(const BoxWatcher&) = delete;
 
-  // The module's dialogs wait for their user; boxes do not.
+  // The module's dialogs and its questions wait for their user; other boxes do not.
   void LeaveDialogs(bool isLeft);
 
  private:

@@ -10,6 +10,7 @@ import os
 
 import dialog_options  # noqa: F401  more scenarios
 import dialog_preview  # noqa: F401
+import dialog_strip  # noqa: F401
 from host_run import HostRun
 from scenarios import equal, near, run, scenario
 from screen import wait_for

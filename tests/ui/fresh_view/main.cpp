@@ -1,7 +1,7 @@
 // tarnwick-fresh-view: what a window of a picture has to look like, rendered from
 // nothing, as the command line's "age" does it. It knows no dialog.
 //
-//   tarnwick-fresh-view TEXTURES IN OUT SCALE X Y WIDTH HEIGHT [FIELD=VALUE...]
+//   tarnwick-fresh-view TEXTURES IN OUT SCALE X Y WIDTH HEIGHT [FIELD=VALUE...] [View=N]
 //
 // IN and OUT are binary PPM. A width of 0 stands for the whole picture at full size.
 #include <cstdio>
@@ -40,9 +40,16 @@ void Render(int argc, char** argv) {
   EffectSettings settings;
   SettingsSession session;
   InitSettingsToDefaults(settings, session);
-  for (int i = 9; i < argc; ++i) Set(argv[i], settings, session);
-
   PreviewWindow window;
+  const std::string view = "View=";
+  for (int i = 9; i < argc; ++i) {
+    const std::string argument = argv[i];
+    if (argument.compare(0, view.size(), view) == 0) {
+      window.view = static_cast<ViewMode>(std::stoi(argument.substr(view.size())));
+    } else {
+      Set(argument, settings, session);
+    }
+  }
   window.scale = std::stoi(argv[4]);
   window.x = std::stoi(argv[5]);
   window.y = std::stoi(argv[6]);
