@@ -317,5 +317,32 @@ TEST(LivePreview, LeavesOutWhatHasNoMemory) {
   }
 }
 
+// Colours that a background shows before they are in the settings, and textures that
+// would have to be loaded again, stay with the layers that stay.
+TEST(LivePreview, RemakesNoLayerThatStays) {
+  const struct {
+    const char* name;
+    KeptLayers kept;
+  } kCases[] = {{"all new", {}},
+                {"washes new", {false, true, true}},
+                {"surfaces new", {true, false, true}},
+                {"background new", {true, true, false}}};
+  for (const auto& c : kCases) {
+    PreviewStage stage(NoisyDocument(24, 20, 3));
+    stage.settings.SecondWashExists = 1;
+    stage.Open({24, 20});
+    EffectLayers& layers = stage.g.layers;
+    layers.background.offsetX = layers.washes[1].offsetX = layers.surfaces[0].offsetX = 3;
+    stage.settings.SecondWashExists = 0;
+    NameNoTextures(stage.settings);
+    stage.preview->RemakeLayers(c.kept);
+    EXPECT_EQ(layers.washes[1].texture != nullptr, c.kept.washes) << c.name;
+    EXPECT_EQ(layers.washes[1].offsetX, c.kept.washes ? 3 : 0) << c.name;
+    EXPECT_EQ(layers.surfaces[0].offsetX, c.kept.surfaces ? 3 : 0) << c.name;
+    EXPECT_EQ(layers.background.offsetX, c.kept.background ? 3 : 0) << c.name;
+    EXPECT_EQ(stage.settings.WashUse + stage.settings.SurfaceUse + stage.settings.BackgroundUse, 0);
+  }
+}
+
 }  // namespace
 }  // namespace tarnwick
