@@ -25,6 +25,9 @@ PngChunks ReadChunks(const std::string& bytes) {
   PngChunks chunks;
   for (std::size_t at = 8; at < bytes.size();) {
     const std::size_t length = BigEndian(bytes, at);
+    if (at + 8 > bytes.size() || length > bytes.size() - at - 8) {
+      throw std::runtime_error("a truncated PNG");
+    }
     const std::string type = bytes.substr(at + 4, 4);
     if (type == "IHDR") chunks.head = bytes.substr(at + 8, length);
     if (type == "IDAT") chunks.packed += bytes.substr(at + 8, length);
@@ -81,7 +84,7 @@ ArtPicture DecodePng(const std::string& bytes) {
   ArtPicture picture;
   picture.width = static_cast<int>(BigEndian(chunks.head, 0));
   picture.height = static_cast<int>(BigEndian(chunks.head, 4));
-  const int color = chunks.head[9];
+  const char color = chunks.head[9];
   if (chunks.head[8] != 8 || (color != 2 && color != 6) || chunks.head[12] != 0 ||
       picture.width < 1 || picture.height < 1 || picture.width > 4096 || picture.height > 4096) {
     throw std::runtime_error("a PNG of another kind than expected");
