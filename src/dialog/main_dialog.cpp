@@ -8,8 +8,10 @@
 #include "dialog/dialog_commands.h"
 #include "dialog/host_picker.h"
 #include "dialog/models/help_pages.h"
+#include "environment/platform_calls.h"
 #include "environment/ui_file.h"
 #include "filter/module_handle.h"
+#include "filter/suite_record.h"
 #include "resources/dialog_ids.h"
 
 namespace tarnwick {
@@ -58,6 +60,15 @@ class OwnerBack {
   FilterGlobals& g_;
   void* owner_;
 };
+
+// A host that cannot tell the handle gets its dialog all the same.
+HINSTANCE ModuleInstance(FilterGlobals& g) {
+  try {
+    return static_cast<HINSTANCE>(GetModuleHandleFor(g, g.gFilterRecord->plugInRef));
+  } catch (const HostServiceMissing&) {
+    return static_cast<HINSTANCE>(OwnModuleHandle());
+  }
+}
 
 }  // namespace
 
@@ -152,7 +163,7 @@ void MainDialog::Bar::Report(int done, int total) {
 }
 
 bool RunMainDialog(FilterGlobals& g) {
-  const auto instance = static_cast<HINSTANCE>(GetModuleHandleFor(g, g.gFilterRecord->plugInRef));
+  const HINSTANCE instance = ModuleInstance(g);
   bool accepted = false;
   {
     const OwnerBack back(g);
