@@ -24,12 +24,12 @@ OffsetHolder ActiveHolder(FilterGlobals& g, EffectPage page, ViewMode view) {
       if (view == ViewMode::kWashTwo && s.SecondWashExists != 0) {
         return {&layers.washes[1], &s.WashOffsetX2, &s.WashOffsetY2};
       }
-      return {&layers.washes[0], &s.WashOffsetX1, &s.WashOffsetY1};
+      return {layers.washes.data(), &s.WashOffsetX1, &s.WashOffsetY1};
     case EffectPage::kSurface:
       if (view == ViewMode::kSurfaceTwo && s.SecondSurfaceExists != 0) {
         return {&layers.surfaces[1], &s.SurfaceOffsetX2, &s.SurfaceOffsetY2};
       }
-      return {&layers.surfaces[0], &s.SurfaceOffsetX1, &s.SurfaceOffsetY1};
+      return {layers.surfaces.data(), &s.SurfaceOffsetX1, &s.SurfaceOffsetY1};
     case EffectPage::kBackground:
       return {&layers.background, &s.BackgroundOffsetX, &s.BackgroundOffsetY};
   }
