@@ -7,6 +7,7 @@
 #include "auto_summary.h"
 #include "command.h"
 #include "data_folders.h"
+#include "engine/render_layers.h"
 #include "option_values.h"
 #include "output_plan.h"
 #include "preset_library.h"

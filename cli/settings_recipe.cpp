@@ -7,6 +7,7 @@
 
 #include "cli_error.h"
 #include "did_you_mean.h"
+#include "engine/render_layers.h"
 #include "number_text.h"
 #include "preset_library.h"
 #include "presets/color_preset.h"
@@ -163,16 +164,6 @@ class Composer {
 
 ComposedSettings ComposeSettings(std::span<const AgeStep> steps, const DataFolders& folders) {
   return Composer(folders).Run(steps);
-}
-
-void DeriveSwitches(EffectSettings& settings) {
-  const auto on = [](bool value) { return static_cast<std::uint8_t>(value ? 1 : 0); };
-  settings.WashUse = on(IsTexture(settings.WashFileName1) ||
-                        (settings.SecondWashExists != 0 && IsTexture(settings.WashFileName2)));
-  settings.SurfaceUse =
-      on(IsTexture(settings.SurfaceFileName1) ||
-         (settings.SecondSurfaceExists != 0 && IsTexture(settings.SurfaceFileName2)));
-  settings.BackgroundUse = on(IsTexture(settings.BackgroundFileName));
 }
 
 std::vector<std::string> TexturesInUse(const EffectSettings& settings) {

@@ -36,9 +36,6 @@ struct ComposedSettings {
 // only the case of letters differs: presets come from systems that ignore it.
 void SpellTexturesAsIn(const std::filesystem::path& folder, EffectSettings& settings);
 
-// Sets the three group switches as a render derives them from the names.
-void DeriveSwitches(EffectSettings& settings);
-
 // Wrong use for a field that does not exist, with the near ones.
 [[noreturn]] void FailUnknownField(const std::string& what, const std::string& name);
 
