@@ -1,9 +1,11 @@
 #include "controls/control_button.h"
 
+#include <algorithm>
 #include <initializer_list>
 
 #include "controls/back_buffer.h"
 #include "controls/control_classes.h"
+#include "controls/control_shared.h"
 #include "controls/control_window.h"
 #include "controls/models/pointer_tracking.h"
 
@@ -63,12 +65,27 @@ LRESULT HandleButton(ControlButton& record, UINT message, WPARAM wParam, LPARAM 
   return DefWindowProcA(record.window, message, wParam, lParam);
 }
 
-void LoadInto(const ControlButton& record, HBITMAP& slot, int id) {
-  if (id == 0) return;
+void Release(HBITMAP bitmap) {
+  const auto& shared = SharedControls().buttonBitmaps;
+  if (bitmap == nullptr || std::find(shared.begin(), shared.end(), bitmap) != shared.end()) return;
+  DeleteObject(bitmap);
+}
+
+HBITMAP BitmapOf(const ControlButton& record, int id) {
+  const auto& shared = SharedControls().buttonBitmaps;
+  if (id < 0) {
+    const auto place = static_cast<std::size_t>(-(id + 1));
+    return place < shared.size() ? shared[place] : nullptr;
+  }
   const auto instance =
       reinterpret_cast<HINSTANCE>(GetWindowLongPtrA(record.window, GWLP_HINSTANCE));
-  const HBITMAP loaded = LoadBitmapA(instance, MAKEINTRESOURCEA(id));
-  if (slot != nullptr) DeleteObject(slot);
+  return LoadBitmapA(instance, MAKEINTRESOURCEA(id));
+}
+
+void LoadInto(const ControlButton& record, HBITMAP& slot, int id) {
+  if (id == 0) return;
+  const HBITMAP loaded = BitmapOf(record, id);
+  Release(slot);
   slot = loaded;
 }
 
@@ -76,7 +93,7 @@ void LoadInto(const ControlButton& record, HBITMAP& slot, int id) {
 
 ControlButton::~ControlButton() {
   for (const HBITMAP bitmap : {normalBitmap, hoverBitmap, pressedBitmap, disabledBitmap}) {
-    if (bitmap != nullptr) DeleteObject(bitmap);
+    Release(bitmap);
   }
 }
 

@@ -9,7 +9,8 @@ namespace tarnwick {
 struct ControlButton : TContaner {
   std::uint8_t toggle = 0;
   std::uint8_t hoverAlternate = 0;
-  HBITMAP normalBitmap = nullptr;  // owned, as the other three are
+  // Owned, as the other three are, but for shared ones.
+  HBITMAP normalBitmap = nullptr;
   HBITMAP hoverBitmap = nullptr;
   HBITMAP pressedBitmap = nullptr;
   HBITMAP disabledBitmap = nullptr;
@@ -23,7 +24,8 @@ LRESULT CALLBACK ControlButtonProc(HWND window, UINT message, WPARAM wParam, LPA
 [[nodiscard]] ControlButton* CreateButtonControl(HWND parent, HINSTANCE instance, int x, int y,
                                                  int width, int height, int id);
 
-// Bitmaps of the window's instance; 0 leaves a slot as it is.
+// Bitmaps of the window's instance; 0 leaves a slot as it is, -1 to -3 take a bitmap
+// that buttons share (SharedControls().buttonBitmaps).
 void SetButtonBitmaps(ControlButton& record, int normalId, int hoverId, int pressedId,
                       int disabledId);
 

@@ -1,6 +1,8 @@
 #pragma once
 #include <windows.h>
 
+#include <array>
+
 #include "controls/control_fonts.h"
 
 namespace tarnwick {
@@ -16,6 +18,9 @@ struct ControlShared {
   HBRUSH idleCell = nullptr;     // behind the others
   HCURSOR hand = nullptr;        // over links
   ControlFonts fonts;
+  // Bitmaps that several buttons show: ids -1, -2 and -3 of SetButtonBitmaps. Whoever
+  // sets them owns them, and keeps them as long as the buttons.
+  std::array<HBITMAP, 3> buttonBitmaps{};
   Rotor* hotRotor = nullptr;  // the one with the pointer on it
 };
 

@@ -122,6 +122,34 @@ int CountOf(HWND window, COLORREF color) {
   return count;
 }
 
+TEST(ControlButton, BorrowsSharedBitmaps) {
+  ControlPage page;
+  auto& shared = SharedControls().buttonBitmaps;
+  shared = {Filled(20, 12, kRed), Filled(20, 12, kGreen), Filled(20, 12, kBlue)};
+  ControlButton* const button =
+      CreateButtonControl(page.Window(), GetModuleHandleA(nullptr), 10, 10, 20, 12, 7);
+  ASSERT_NE(button, nullptr);
+  const HWND window = button->window;
+  SetButtonBitmaps(*button, -1, -2, -3, -4);
+  EXPECT_EQ(button->disabledBitmap, nullptr);
+  RedrawControl(window);
+  EXPECT_EQ(ControlPage::PixelOf(window, 5, 5), kRed);
+  Point(window, WM_LBUTTONDOWN, 5, 5, MK_LBUTTON);
+  EXPECT_EQ(ControlPage::PixelOf(window, 5, 5), kBlue);
+  Point(window, WM_LBUTTONUP, 5, 5);
+  // Another takes a slot over; then the button goes. The bitmaps stay whole.
+  SetButtonBitmaps(*button, -2, 0, 0, 0);
+  RedrawControl(window);
+  EXPECT_EQ(ControlPage::PixelOf(window, 5, 5), kGreen);
+  DestroyWindow(window);
+  for (HBITMAP& bitmap : shared) {
+    BITMAP size{};
+    EXPECT_NE(GetObjectA(bitmap, sizeof size, &size), 0);
+    DeleteObject(bitmap);
+    bitmap = nullptr;
+  }
+}
+
 TEST(Label, TracksThePointerInItsColours) {
   ControlPage page;
   TContaner* const label =
