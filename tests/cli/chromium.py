@@ -128,6 +128,12 @@ class Chromium:
         self._call("Page.navigate", url=address)
         self.wait_for("document.readyState === 'complete' && location.href !== 'about:blank'")
 
+    def _paint(self):
+        """Waits for a frame. Until a page has painted its first one the browser drops what
+        the pointer does; and a press goes to what was painted, not to what is laid out."""
+        self._call("Page.captureScreenshot", format="png",
+                   clip={"x": 0, "y": 0, "width": 1, "height": 1, "scale": 1})
+
     def run(self, script):
         """The value of a JavaScript expression, awaited."""
         result = self._call("Runtime.evaluate", expression=script, returnByValue=True,
@@ -136,9 +142,18 @@ class Chromium:
             raise Fault(result["exceptionDetails"]["exception"].get("description", script))
         return result["result"].get("value")
 
+    def _is(self, condition):
+        try:
+            return self.run(condition)
+        except Fault as fault:
+            # Asked while one page gives way to another: not yet.
+            if "navigated" in str(fault) or "context" in str(fault):
+                return False
+            raise
+
     def wait_for(self, condition, seconds=20):
         deadline = time.monotonic() + seconds
-        while not self.run(condition):
+        while not self._is(condition):
             if time.monotonic() > deadline:
                 raise Fault(f"never came true: {condition}")
             time.sleep(0.02)
@@ -171,11 +186,13 @@ class Chromium:
         self.mouse("Released", *box)
 
     def _point(self, selector, along=0.5):
-        return self.run(f"""(() => {{
+        place = self.run(f"""(() => {{
             const element = document.querySelector({json.dumps(selector)});
             element.scrollIntoView({{block: "center", behavior: "instant"}});
             const box = element.getBoundingClientRect();
             return [box.left + {along} * box.width, box.top + box.height / 2]; }})()""")
+        self._paint()
+        return place
 
     def _finger(self, kind, *place):
         points = [{"x": place[0], "y": place[1]}] if place else []
