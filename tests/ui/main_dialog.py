@@ -8,7 +8,8 @@ does: what the pane shows has to be the same, pixel for pixel.
 """
 import os
 
-import dialog_options  # noqa: F401  more scenarios
+import dialog_help  # noqa: F401  more scenarios
+import dialog_options  # noqa: F401
 import dialog_preview  # noqa: F401
 import dialog_strip  # noqa: F401
 from host_run import HostRun

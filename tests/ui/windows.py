@@ -16,9 +16,12 @@ class Session:
         self.folder, self.dpi = os.path.abspath(folder), dpi
         os.makedirs(self.folder, exist_ok=True)
         self.screen = Screen()
+        self._pages = os.path.join(self.folder, f"opened-pages-{dpi}dpi.log")
+        with open(self._pages, "w"):
+            pass
         self._agent = subprocess.Popen(
-            [wine32, "run", agent, str(dpi)], stdin=subprocess.PIPE, stdout=subprocess.PIPE,
-            env=dict(os.environ, DISPLAY=self.screen.display))
+            [wine32, "run", agent, str(dpi), self._pages], stdin=subprocess.PIPE,
+            stdout=subprocess.PIPE, env=dict(os.environ, DISPLAY=self.screen.display))
         self._bytes = b""
         self._programs = 0
         self.ask("tops")
@@ -48,6 +51,13 @@ class Session:
             self._bytes += chunk
         answer, _, self._bytes = self._bytes.partition(b"\n")
         return json.loads(answer)
+
+    def pages(self):
+        """The files of all pages that have been opened so far, the latest last."""
+        with open(self._pages) as file:
+            lines = file.read().split("\n")[:-1]
+        # The machine's own files are the drive Z.
+        return [line.replace("\\", "/").removeprefix("Z:") for line in lines]
 
     def start(self, *command):
         self._programs += 1

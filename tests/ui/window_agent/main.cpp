@@ -1,11 +1,13 @@
 // tarnwick-window-agent: the driver's eyes inside Windows. Reads one command a line
 // from its input, answers each with one line of JSON, and ends with its input.
 //
-//   tarnwick-window-agent DPI
+//   tarnwick-window-agent DPI PAGES
+//
+// PAGES is the file in which the session notes what pages have been opened.
 //
 //   start LOG COMMAND LINE    the new process, or 0; LOG has no spaces
 //   program P | end P | resources P
-//   tops | children W | window W | tips W | tabs W | focus
+//   tops | children W | window W | tips W | tabs W | focus | pointer
 //   send W MESSAGE WPARAM LPARAM    the window's answer
 //
 // The pointer and the keys are the driver's: the agent only looks.
@@ -33,6 +35,21 @@ void SettleDesktop(DWORD dpi) {
   constexpr char kDriver[] = "Software\\Wine\\X11 Driver";
   SetUserValue(kDriver, "Managed", REG_SZ, "N", 2);
   SetUserValue(kDriver, "Decorated", REG_SZ, "N", 2);
+}
+
+// Pages are opened by tarnwick-page-note, which lies beside this program. The registry
+// is the session's own and goes with it.
+void NotePages(const char* pages) {
+  char self[MAX_PATH] = {}, note[MAX_PATH] = {};
+  GetModuleFileNameA(nullptr, self, sizeof self);
+  GetFullPathNameA(pages, sizeof note, note, nullptr);
+  std::string folder = self;
+  folder.erase(folder.rfind('\\') + 1);
+  const std::string command = '"' + folder + "tarnwick-page-note.exe\" \"" + note + "\" \"%1\"";
+  constexpr char kClass[] = "TarnwickPageNote";
+  RegSetKeyValueA(HKEY_CLASSES_ROOT, ".html", nullptr, REG_SZ, kClass, sizeof kClass);
+  RegSetKeyValueA(HKEY_CLASSES_ROOT, (std::string(kClass) + "\\shell\\open\\command").c_str(),
+                  nullptr, REG_SZ, command.c_str(), static_cast<DWORD>(command.size() + 1));
 }
 
 std::string AnswerTo(const std::string& line) {
@@ -69,6 +86,8 @@ std::string AnswerTo(const std::string& line) {
     TellTabs(window, answer);
   } else if (command == "focus") {
     TellFocus(answer);
+  } else if (command == "pointer") {
+    answer.Number(PointerShape());
   } else if (command == "send") {
     UINT message = 0;
     long long wParam = 0, lParam = 0;
@@ -88,6 +107,7 @@ std::string AnswerTo(const std::string& line) {
 
 int main(int argc, char** argv) {
   SettleDesktop(argc > 1 ? static_cast<DWORD>(std::stoul(argv[1])) : 96);
+  if (argc > 2) NotePages(argv[2]);
   SetProcessDPIAware();
   GetDesktopWindow();
   std::string line;

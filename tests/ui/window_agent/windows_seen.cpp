@@ -90,4 +90,11 @@ void TellFocus(JsonLine& answer) {
   answer.Key("active").Number(NumberOf(info.hwndActive)).End('}');
 }
 
+long long PointerShape() {
+  CURSORINFO info{};
+  info.cbSize = sizeof info;
+  if (GetCursorInfo(&info) == FALSE || (info.flags & CURSOR_SHOWING) == 0) return 0;
+  return static_cast<long long>(reinterpret_cast<LONG_PTR>(info.hCursor));
+}
+
 }  // namespace tarnwick::testui

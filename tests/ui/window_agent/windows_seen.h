@@ -20,6 +20,10 @@ void TellWindow(HWND window, JsonLine& answer);
 // {"focus","capture","active"} of the thread that has the input.
 void TellFocus(JsonLine& answer);
 
+// The shape that the pointer has on the screen: a number that stands for it within
+// the program below it, 0 for none.
+[[nodiscard]] long long PointerShape();
+
 // The texts of a window's tool tips, as a list.
 void TellTips(HWND window, JsonLine& answer);
 
