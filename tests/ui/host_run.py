@@ -102,11 +102,11 @@ class HostRun:
         assert planes == 3, "only colours are read"
         return from_rgb(self.width, self.height, samples)
 
-    def aged(self, *settings, scale=1, window=(0, 0, 0, 0)):
-        """The picture rendered anew with the same textures, without a dialog."""
+    def aged(self, *settings, scale=1, window=(0, 0, 0, 0), picture=None):
+        """The picture, or another one, rendered anew with the same textures, without a dialog."""
         out = self.file("aged.ppm")
         program = self.session.start(self.arguments.fresh_view, self.file("Tarnwick Studio"),
-                                     self.picture, out, scale, *window, *settings)
+                                     picture or self.picture, out, scale, *window, *settings)
         equal(program.wait(), 0)
         return read_pnm(out)
 
