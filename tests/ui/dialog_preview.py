@@ -131,6 +131,44 @@ def a_drag_with_control_moves_the_texture(run):
     equal(run.result().rgb(), run.aged("WashOffsetY1=30").rgb())
 
 
+@scenario(96, 144)
+def the_pointer_is_a_hand_over_the_pane(run):
+    """An open one, a closed one in a pan, none with CTRL; their drawings are for eyes."""
+    dialog = run.open(after=["expect error -128"])
+    pane, shape = dialog[1002], lambda: run.session.ask("pointer")
+    dialog.wait_pane(dialog.window_at(0, 0))
+    run.screen.move(*dialog.window.place(10, 200))
+    wait_for(shape, "no pointer over the dialog")
+    arrow = shape()
+
+    def wait_other(*shapes):
+        wait_for(lambda: shape() not in (0, *shapes), "the pointer keeps its shape")
+        return shape()
+    pane.move(200, 200)
+    opened = wait_other(arrow)
+    pane.drag((200, 200), (160, 180), lets_go=False)
+    closed = wait_other(arrow, opened)
+    # Held beyond the pane too.
+    run.screen.move(*dialog.window.place(10, 200))
+    wait_for(lambda: shape() == closed, "the hand lets go outside")
+    pane.move(160, 180)
+    run.screen.release()
+    wait_for(lambda: shape() == opened, "the hand stays closed")
+    run.screen.do("keydown", "ctrl")
+    pane.move(170, 190)
+    of_class = wait_other(arrow, opened, closed)
+    pane.drag((170, 190), (150, 180), lets_go=False)
+    wait_for(lambda: run.session.ask("focus")["capture"] == pane.number, "not captured")
+    equal(shape(), of_class)
+    run.screen.release()
+    run.screen.do("keyup", "ctrl")
+    pane.move(180, 200)
+    wait_for(lambda: shape() == opened, "no hand without CTRL")
+    run.screen.move(*dialog.window.place(10, 200))
+    wait_for(lambda: shape() == arrow, "a hand beside the pane")
+    dialog.cancel()
+
+
 @scenario()
 def the_right_button_is_held_by_the_pane(run):
     dialog = run.open(after=CANCELLED)
