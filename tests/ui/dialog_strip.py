@@ -77,6 +77,25 @@ def each_page_has_its_strip(run):
 
 
 @scenario()
+def the_strip_fits_the_smallest_window(run):
+    """With all that there can be on it, and Reset behind; finer screens want a wider one."""
+    dialog = run.open(width=400, height=300, after=CANCELLED)
+    left, top, right, _ = dialog[1002].frame
+    for tab, want in ONE.items():
+        dialog.tab(tab)
+        wait_row(dialog, want)
+        if tab in TWO:
+            dialog[want[-4]].click()  # adds one
+            wait_row(dialog, TWO[tab])
+        frames = [dialog[number].frame for number in row(dialog)]
+        for one, other in zip(frames, frames[1:]):
+            assert one[2] <= other[0], f"{one} lies on {other} on page {tab}"
+        assert frames[0][0] >= left and frames[-1][2] <= right, f"{frames} on page {tab}"
+        dialog.window.shot(f"dialog-strip-smallest-{tab}")
+    dialog.cancel()
+
+
+@scenario()
 def a_page_keeps_its_view(run):
     dialog = run.open(after=CANCELLED)
     aged, width, height = dialog.window_at(0, 0), *dialog[1002].size

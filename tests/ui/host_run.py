@@ -52,21 +52,23 @@ class HostRun:
             file.write(data)
         return self.file(name)
 
-    def open(self, width=1400, height=1000, planes=3, before=(), after=(), mode="rgb"):
+    def open(self, width=1400, height=1000, planes=3, before=(), after=(), mode="rgb",
+             picture=None):
         """Runs the filter on a picture of this size; the dialog, once it is there."""
         lines = [*before, "dialog by-hand", "run", *after]
         if mode == "rgb":
             lines.append('save layer "Layer 1" to result.pam')
-        self.start(width, height, planes, lines, mode)
+        self.start(width, height, planes, lines, mode, picture)
         return Dialog(self)
 
-    def start(self, width=1400, height=1000, planes=3, lines=(), mode="rgb"):
+    def start(self, width=1400, height=1000, planes=3, lines=(), mode="rgb", picture=None):
+        """With a pattern where no picture is given, which is a P6 file's bytes."""
         self.width, self.height = width, height
         # What an earlier run has left; not the ini file.
         shutil.rmtree(self.file("Tarnwick Studio"), ignore_errors=True)
         if os.path.exists(self.file("TarnikStudi.8bf")):
             os.remove(self.file("TarnikStudi.8bf"))
-        self.picture = self.put("picture.ppm", pattern(width, height))
+        self.picture = self.put("picture.ppm", picture or pattern(width, height))
         alpha = ""
         if planes > 3:
             alpha = " alpha " + self.put("alpha.pgm", ramp(width, height))

@@ -7,6 +7,8 @@ The fresh view renders the same picture with the same textures, as the command l
 does: what the pane shows has to be the same, pixel for pixel.
 """
 import os
+import shutil
+import subprocess
 
 import dialog_help  # noqa: F401  more scenarios
 import dialog_options  # noqa: F401
@@ -85,10 +87,14 @@ def opens_whole(run):
     dialog.cancel()
 
 
-@scenario(144)
+@scenario(120, 144)
 def opens_on_a_fine_screen(run):
+    """As small as it may be, which is no more than on a coarse one, with larger controls."""
     dialog = run.open(after=CANCELLED)
+    equal(dialog.window.frame[2] - dialog.window.frame[0], SMALLEST[0])
+    equal(dialog.window.frame[3] - dialog.window.frame[1], SMALLEST[1])
     dialog.wait_pane(dialog.window_at(0, 0))
+    assert_tidy(dialog)
     dialog.window.shot("dialog-smallest")
     dialog.cancel()
 
@@ -104,6 +110,26 @@ def opens_where_the_file_tells(run):
     dialog.window.shot("dialog-large")
     dialog.cancel()
     equal([run.ini()[key] for key in ("tfeL", "htdW", "thgH")], [20, 1600, 990])
+
+
+@scenario(96, 144)
+def shows_a_photograph(run):
+    """For the eye: in the smallest window and in a large one."""
+    tool = shutil.which("convert")
+    if tool is None:
+        print("  no convert here (imagemagick), so no photograph is shown")
+        return
+    sample = os.path.join(os.path.dirname(__file__), "..", "..", "docs", "sample.jpg")
+    photograph = subprocess.run([tool, sample, "-strip", "-depth", "8", "ppm:-"],
+                                stdout=subprocess.PIPE, check=True).stdout
+    width, height = map(int, photograph.split(None, 3)[1:3])
+    for name, ini in (("smallest", b""), ("large", b"tfeL 20\nhtdW 1600\nthgH 1000\n")):
+        run.put("TarnwickStudio.ini", ini)
+        dialog = run.open(width, height, picture=photograph, after=CANCELLED)
+        dialog.wait_pane(dialog.window_at(0, 0))
+        assert_tidy(dialog)
+        dialog.window.shot(f"photograph-{name}")
+        dialog.cancel()
 
 
 @scenario(96, 144)
