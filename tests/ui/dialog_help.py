@@ -65,13 +65,15 @@ def f1_twice_opens_one_page(run):
 
 @scenario()
 def buttons_of_the_header_open_pages(run):
-    """On any tab the same; All Presets then looks as it does without the pointer."""
+    """On any tab the same; All Presets does not stay lit."""
     dialog = run.open(width=400, height=300, after=CANCELLED)
     pages, idle = Help(run), dialog[ALL_PRESETS].picture().rgb()
     for tab in (0, 2):
         dialog.tab(tab)
         pages.ask(dialog[MANUAL].click, "index.html")
         pages.ask(dialog[ALL_PRESETS].click, "presets.html")
+        # With the pointer on it, it would light up again at the next move.
+        run.screen.move(*dialog.window.place(60, 400))
         wait_for(lambda: dialog[ALL_PRESETS].picture().rgb() == idle, "it stays lit")
         assert dialog.window.look().enabled
     dialog.cancel()
