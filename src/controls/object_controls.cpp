@@ -7,6 +7,11 @@ namespace {
 LRESULT Dispatch(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   auto* const object = reinterpret_cast<WindowObject*>(GetWindowLongPtrA(window, GWLP_USERDATA));
   if (object == nullptr) return DefWindowProcA(window, message, wParam, lParam);
+  if (message == WM_NCDESTROY) {
+    // The handle may become another window's; the object lets go of it.
+    SetWindowLongPtrA(window, GWLP_USERDATA, 0);
+    object->window = nullptr;
+  }
   return object->WindowProc(window, message, wParam, lParam);
 }
 

@@ -4,7 +4,8 @@
 namespace tarnwick {
 
 // Controls that are objects: the window finds its object in its user data and
-// hands it all messages. Until that is attached, the system answers them.
+// hands it all messages. Until that is attached, the system answers them. Once the
+// window is gone, the object has none.
 class WindowObject {
  public:
   WindowObject() = default;
