@@ -3,7 +3,6 @@
 #include "controls/back_buffer.h"
 #include "controls/control_shared.h"
 #include "controls/control_window.h"
-#include "controls/models/pointer_tracking.h"
 #include "controls/models/swatch_outline.h"
 
 namespace tarnwick {
@@ -36,9 +35,10 @@ void Paint(const ColorSwatch& swatch) {
 }
 
 void OnMove(ColorSwatch& swatch, LPARAM lParam) {
-  const PointerPlace p = PointerOf(lParam);
-  const bool isInside = IsInside(p.x, p.y, swatch.width, swatch.height);
-  if (isInside == (swatch.hot != 0)) return;
+  const bool isInside = HoldsPointer(swatch.window, lParam);
+  // Hot without the capture, another window took it meanwhile: the pointer comes anew.
+  const bool isHeld = swatch.hot != 0 && GetCapture() == swatch.window;
+  if (isInside ? isHeld : swatch.hot == 0) return;
   swatch.hot = isInside ? 1 : 0;
   if (isInside) {
     SetCapture(swatch.window);
@@ -51,7 +51,10 @@ void OnMove(ColorSwatch& swatch, LPARAM lParam) {
 void Choose(ColorSwatch& swatch) {
   ReleaseCapture();
   COLORREF color = swatch.color;
+  const HWND window = swatch.window;
   const bool isChosen = PickColor(swatch, color);
+  // The picker has run messages; the swatch may have gone with one of them.
+  if (IsWindow(window) == FALSE) return;
   swatch.hot = 0;
   if (!isChosen) return RedrawControl(swatch.window);
   swatch.color = color;
@@ -62,14 +65,17 @@ void Choose(ColorSwatch& swatch) {
 LRESULT HandleSwatch(ColorSwatch& swatch, UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_MOUSEMOVE:
+      if (IgnoresPointer(swatch)) break;
       OnMove(swatch, lParam);
       return 0;
     case WM_LBUTTONUP:
     case WM_RBUTTONUP:
+      if (IgnoresPointer(swatch)) break;
       Choose(swatch);
       return 0;
     case WM_ENABLE:
       swatch.enabled = wParam != 0 ? 1 : 0;
+      swatch.hot = 0;
       RedrawControl(swatch.window);
       return 0;
     case WM_ERASEBKGND:

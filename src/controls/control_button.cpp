@@ -27,26 +27,28 @@ void Track(ControlButton& record, const Event& event) {
 void Paint(const ControlButton& record) {
   const BackBuffer buffer(record.window);
   if (buffer.Dc() == nullptr) return;
+  // Seen where a bitmap is missing or too small.
+  FillRect(buffer.Dc(), &buffer.Client(), SharedControls().faceBrush);
   DrawBitmap(buffer.Dc(), ShownBitmap(record), 0, 0, record.width, record.height, 0, 0);
 }
 
 LRESULT HandleButton(ControlButton& record, UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_MOUSEMOVE: {
+      if (IgnoresPointer(record)) break;
       const PointerPlace p = PointerOf(lParam);
-      if (record.enabled == 0) break;
       Track(record, [&](ButtonTracking& t) {
         return t.Move(IsInside(p.x, p.y, record.width, record.height), (wParam & MK_LBUTTON) != 0);
       });
       return 0;
     }
     case WM_LBUTTONDOWN:
-      if (record.enabled == 0) break;
       SetFocus(record.window);
+      if (IgnoresPointer(record)) break;
       Track(record, [](ButtonTracking& t) { return t.Press(); });
       return 0;
     case WM_LBUTTONUP:
-      if (record.enabled == 0) break;
+      if (IgnoresPointer(record)) break;
       Track(record, [](ButtonTracking& t) { return t.Release(); });
       return 0;
     case WM_ENABLE:
@@ -106,7 +108,11 @@ ControlButton* CreateButtonControl(HWND parent, HINSTANCE instance, int x, int y
   const HWND window = CreateWindowExA(
       0, kButtonClass, "", WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | WS_CLIPCHILDREN, x, y, width,
       height, parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), instance, nullptr);
-  return GetControlRecord<ControlButton>(window, kButtonClass);
+  auto* const record = GetControlRecord<ControlButton>(window, kButtonClass);
+  if (record == nullptr) return nullptr;
+  record->x = x;
+  record->y = y;
+  return record;
 }
 
 void SetButtonBitmaps(ControlButton& record, int normalId, int hoverId, int pressedId,

@@ -42,12 +42,28 @@ LRESULT CALLBACK ControlProc(HWND window, UINT message, WPARAM wParam, LPARAM lP
   return Handle(*record, message, wParam, lParam);
 }
 
+// A control that its owner has switched off ignores the pointer. If it holds it, it
+// lets it go: no release would ever do so.
+[[nodiscard]] inline bool IgnoresPointer(const TContaner& record) {
+  if (record.enabled != 0) return false;
+  if (GetCapture() == record.window) ReleaseCapture();
+  return true;
+}
+
 // Where the pointer is, in client coordinates; negative outside to the left or top.
 struct PointerPlace {
   int x, y;
 };
 [[nodiscard]] inline PointerPlace PointerOf(LPARAM lParam) {
   return {static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam))};
+}
+
+// Whether that is in the window's client area.
+[[nodiscard]] inline bool HoldsPointer(HWND window, LPARAM lParam) {
+  RECT client{};
+  GetClientRect(window, &client);
+  const PointerPlace p = PointerOf(lParam);
+  return PtInRect(&client, {p.x, p.y}) != FALSE;
 }
 
 }  // namespace tarnwick

@@ -2,7 +2,6 @@
 
 #include "controls/back_buffer.h"
 #include "controls/control_window.h"
-#include "controls/models/pointer_tracking.h"
 
 namespace tarnwick {
 namespace {
@@ -15,16 +14,10 @@ void Show(HWND button, HBITMAP bitmap) {
   SendMessageA(button, BM_SETIMAGE, IMAGE_BITMAP, reinterpret_cast<LPARAM>(bitmap));
 }
 
-bool HoldsPointer(HWND button, LPARAM lParam) {
-  RECT client{};
-  GetClientRect(button, &client);
-  const PointerPlace p = PointerOf(lParam);
-  return IsInside(p.x, p.y, client.right, client.bottom);
-}
-
 void OnMove(ImageButtonState& state, HWND button, LPARAM lParam) {
   if (HoldsPointer(button, lParam)) {
-    if (state.inside != 0) return;
+    // Without the capture, another window took it meanwhile: the pointer comes anew.
+    if (state.inside != 0 && GetCapture() == button) return;
     SetCapture(button);
     state.inside = 1;
     Show(button, ImageOf(state, true, IsChecked(button), true));

@@ -47,6 +47,8 @@ ImageControl* CreateImageControl(HWND parent, HINSTANCE instance, int x, int y, 
       height, parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), instance, nullptr);
   auto* const record = GetControlRecord<ImageControl>(window, kImageClass);
   if (record == nullptr) return nullptr;
+  record->x = x;
+  record->y = y;
   record->image = bitmap;
   if (caption != nullptr) record->text = caption;
   RedrawControl(window);

@@ -1,5 +1,7 @@
 #include "controls/label_control.h"
 
+#include <utility>
+
 #include "controls/back_buffer.h"
 #include "controls/control_classes.h"
 #include "controls/control_shared.h"
@@ -8,6 +10,12 @@
 
 namespace tarnwick {
 namespace {
+
+struct Label : TContaner {
+  // Painting has, since its window is disabled. What the owner has switched off
+  // stays off when the window is enabled again.
+  bool isSwitchedOff = false;
+};
 
 struct CaptionLook {
   HFONT font;
@@ -34,7 +42,7 @@ CaptionLook TrackingLook(const TContaner& record) {
   return {fonts.FontCaptionHover, color};
 }
 
-void Paint(TContaner& record) {
+void Paint(Label& record) {
   const BackBuffer buffer(record.window);
   if (buffer.Dc() == nullptr) return;
   const bool isTracking = record.style == kTrackingLabel;
@@ -47,7 +55,10 @@ void Paint(TContaner& record) {
     FillRect(buffer.Dc(), &buffer.Client(), record.backBrush);
   }
   const CaptionLook look = isTracking ? TrackingLook(record) : LinkLook(record);
-  if (isTracking && IsWindowEnabled(record.window) == FALSE) record.enabled = 0;
+  if (isTracking && record.enabled != 0 && IsWindowEnabled(record.window) == FALSE) {
+    record.enabled = 0;
+    record.isSwitchedOff = true;
+  }
   const Selected font(buffer.Dc(), look.font);
   SetTextColor(buffer.Dc(), look.color);
   SetBkMode(buffer.Dc(), TRANSPARENT);
@@ -58,7 +69,7 @@ void Paint(TContaner& record) {
 }
 
 template <typename Event>
-void Track(TContaner& record, const Event& event) {
+void Track(Label& record, const Event& event) {
   LabelTracking tracking{record.state};
   const TrackingStep step = event(tracking);
   record.state = tracking.state;
@@ -68,15 +79,17 @@ void Track(TContaner& record, const Event& event) {
   if (step.notify) PostControlCommand(record);
 }
 
-LRESULT HandleLabel(TContaner& record, UINT message, WPARAM wParam, LPARAM lParam) {
+LRESULT HandleLabel(Label& record, UINT message, WPARAM wParam, LPARAM lParam) {
   switch (message) {
     case WM_SETCURSOR:
       if (record.enabled == 0) break;
       SetCursor(SharedControls().hand);
       return TRUE;
     case WM_MOUSEMOVE: {
-      if (record.style != kTrackingLabel || record.enabled == 0) break;
+      if (IgnoresPointer(record) || record.style != kTrackingLabel) break;
       const PointerPlace p = PointerOf(lParam);
+      // Another window took the pointer away meanwhile: it has come anew.
+      if (record.state == kHovered && GetCapture() != record.window) record.state = kIdle;
       Track(record, [&](LabelTracking& t) {
         return t.Move(IsInside(p.x, p.y, record.width, record.height));
       });
@@ -86,15 +99,15 @@ LRESULT HandleLabel(TContaner& record, UINT message, WPARAM wParam, LPARAM lPara
       SetFocus(record.window);
       return 0;
     case WM_LBUTTONUP:
-      if (record.enabled == 0) break;
+      if (IgnoresPointer(record)) break;
       Track(record, [](LabelTracking& t) { return t.Release(); });
       return 0;
     case WM_COMMAND:
       PostMessageA(GetParent(record.window), message, wParam, lParam);
       return 0;
     case WM_ENABLE:
-      // What painting has switched off comes back with the window.
-      if (wParam != 0) record.enabled = 1;
+      if (wParam == 0 && record.state == kHovered) record.state = kIdle;
+      if (wParam != 0 && std::exchange(record.isSwitchedOff, false)) record.enabled = 1;
       RedrawControl(record.window);
       return 0;
     case WM_ERASEBKGND:
@@ -111,7 +124,7 @@ LRESULT HandleLabel(TContaner& record, UINT message, WPARAM wParam, LPARAM lPara
 }  // namespace
 
 LRESULT CALLBACK LabelProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-  return ControlProc<TContaner, HandleLabel>(window, message, wParam, lParam);
+  return ControlProc<Label, HandleLabel>(window, message, wParam, lParam);
 }
 
 TContaner* CreateLabelControl(int x, int y, int width, int height, HWND parent, int id,
@@ -121,10 +134,12 @@ TContaner* CreateLabelControl(int x, int y, int width, int height, HWND parent, 
       reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), SharedControls().instance, nullptr);
   auto* const record = GetControlRecord<TContaner>(window, kLabelClass);
   if (record == nullptr) return nullptr;
+  record->x = x;
+  record->y = y;
   record->kind = kLabelCaption;
   record->enabled = enabled ? 1 : 0;
   record->leftAligned = leftAligned ? 1 : 0;
-  record->text = text;
+  if (text != nullptr) record->text = text;
   RedrawControl(window);
   return record;
 }

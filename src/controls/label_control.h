@@ -10,7 +10,7 @@ namespace tarnwick {
 // controls in it are posted on.
 LRESULT CALLBACK LabelProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
 
-// Null when it cannot be made. The caller sets style and colours.
+// Null when it cannot be made; `text` may be null. The caller sets style and colours.
 [[nodiscard]] TContaner* CreateLabelControl(int x, int y, int width, int height, HWND parent,
                                             int id, const char* text, bool enabled,
                                             bool leftAligned);

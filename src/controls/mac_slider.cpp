@@ -53,6 +53,8 @@ void Follow(TMacSlider& slider, LPARAM lParam) {
 }
 
 LRESULT OnOwnPointer(TMacSlider& slider, UINT message, WPARAM wParam, LPARAM lParam) {
+  // The owner may destroy the slider when it is told.
+  const HWND window = slider.window;
   switch (message) {
     case WM_LBUTTONDOWN:
       SetCapture(slider.window);
@@ -62,13 +64,13 @@ LRESULT OnOwnPointer(TMacSlider& slider, UINT message, WPARAM wParam, LPARAM lPa
       if (wParam != MK_LBUTTON) break;
       Follow(slider, lParam);
       SendMessageA(Parent(slider), WM_HSCROLL, 0, 0);
-      if (slider.continuous != 0) SendControlCommand(slider, 1);
+      if (IsWindow(window) != FALSE && slider.continuous != 0) SendControlCommand(slider, 1);
       break;
     case WM_LBUTTONUP:
       ReleaseCapture();
       Follow(slider, lParam);
       SendMessageA(Parent(slider), WM_HSCROLL, 0, 0);
-      SendControlCommand(slider, 0);
+      if (IsWindow(window) != FALSE) SendControlCommand(slider, 0);
       break;
     default:
       if (slider.rightPress != 0) SendMessageA(Parent(slider), WM_RBUTTONDOWN, 0, 0);
@@ -102,7 +104,7 @@ LRESULT TMacSlider::WindowProc(HWND target, UINT message, WPARAM wParam, LPARAM 
     case WM_LBUTTONUP:
     case WM_MOUSEMOVE:
     case WM_RBUTTONDOWN:
-      if (orientation == kTrackbar) break;
+      if (orientation == kTrackbar || IgnoresPointer(*this)) break;
       return OnOwnPointer(*this, message, wParam, lParam);
     case WM_ENABLE:
       EnableAll(*this, wParam != 0);
@@ -129,21 +131,20 @@ LRESULT CALLBACK MacSliderProc(HWND window, UINT message, WPARAM wParam, LPARAM 
 
 void BindSlider(TMacSlider& slider) {
   if (slider.trackbar != nullptr) return;
-  slider.orientation = kTrackbar;
-  slider.trackbarId = kTrackbarId;
   slider.trackbar = CreateWindowExA(
       0, TRACKBAR_CLASSA, "", WS_CHILD | WS_VISIBLE | TBS_NOTICKS, 0, 0, slider.width,
       slider.height, slider.window, reinterpret_cast<HMENU>(static_cast<INT_PTR>(kTrackbarId)),
       reinterpret_cast<HINSTANCE>(GetWindowLongPtrA(slider.window, GWLP_HINSTANCE)), nullptr);
   // Without one it goes on as a gauge.
-  if (slider.trackbar == nullptr) slider.orientation = kHorizontal;
+  slider.orientation = slider.trackbar != nullptr ? kTrackbar : kHorizontal;
+  slider.trackbarId = slider.trackbar != nullptr ? kTrackbarId : 0;
 }
 
 void SetSliderRange(TMacSlider& slider, float minimum, float maximum) {
   slider.range.minimum = minimum;
   slider.range.maximum = maximum;
-  const auto low = static_cast<short>(minimum);
-  const auto high = static_cast<short>(maximum);
+  const auto low = static_cast<short>(static_cast<int>(minimum));
+  const auto high = static_cast<short>(static_cast<int>(maximum));
   if (slider.spinId != 0) {
     const HWND edit = slider.editId != 0 ? GetDlgItem(Parent(slider), slider.editId) : nullptr;
     SendDlgItemMessageA(Parent(slider), slider.spinId, UDM_SETBUDDY, reinterpret_cast<WPARAM>(edit),

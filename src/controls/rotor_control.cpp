@@ -112,14 +112,17 @@ void BecomeHot(Rotor& rotor) {
 LRESULT HandleRotor(Rotor& rotor, UINT message, WPARAM wParam, LPARAM lParam) {
   const bool isDial = rotor.look != kBallLook;
   const PointerPlace p = PointerOf(lParam);
+  const HWND window = rotor.window;
   switch (message) {
     case WM_LBUTTONDOWN:
+      if (IgnoresPointer(rotor)) break;
       rotor.pressed = 1;
       SetCapture(rotor.window);
       rotor.angles.Press(p.x, p.y, rotor.width, rotor.height, isDial, rotor.limited != 0);
       ShowChange(rotor);
       return 0;
     case WM_MOUSEMOVE:
+      if (IgnoresPointer(rotor)) break;
       BecomeHot(rotor);
       if ((wParam & MK_LBUTTON) == 0 || GetCapture() != rotor.window) return 0;
       rotor.angles.Drag(p.x, p.y, rotor.width, rotor.height, isDial);
@@ -127,10 +130,12 @@ LRESULT HandleRotor(Rotor& rotor, UINT message, WPARAM wParam, LPARAM lParam) {
       if (rotor.continuous != 0) PostControlCommand(rotor);
       return 0;
     case WM_LBUTTONUP:
-      if (GetCapture() != rotor.window) return 0;
+      if (IgnoresPointer(rotor) || GetCapture() != rotor.window) return 0;
       ReleaseCapture();
       SendControlCommand(rotor, 0);
-      RedrawControl(rotor.window);
+      // The owner may have destroyed it.
+      if (IsWindow(window) == FALSE) return 0;
+      RedrawControl(window);
       rotor.pressed = 1;
       return 0;
     case WM_ENABLE:
