@@ -5,7 +5,6 @@
 
 #include "controls/color_swatch.h"
 #include "controls/control_button.h"
-#include "controls/control_shared.h"
 #include "controls/control_window.h"
 #include "controls/image_control.h"
 #include "controls/label_control.h"
@@ -62,6 +61,10 @@ const ClassRow kClasses[] = {
     {kDrawerClass, DrawerProc, CS_DBLCLKS, Background::kBlack},
 };
 
+// The system's own brush, by its number: it deletes any other with each class that
+// is taken away, and the shared one is deleted by us.
+const auto kFaceBackground = reinterpret_cast<HBRUSH>(static_cast<INT_PTR>(COLOR_BTNFACE + 1));
+
 bool RegisterRow(const ClassRow& row, HINSTANCE instance) {
   WNDCLASSA definition{};
   definition.style = row.style;
@@ -72,7 +75,7 @@ bool RegisterRow(const ClassRow& row, HINSTANCE instance) {
   definition.hCursor = LoadCursorA(nullptr, MAKEINTRESOURCEA(row.hasMoveCursor ? 32646 : 32512));
   definition.hbrBackground = row.background == Background::kBlack
                                  ? static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH))
-                                 : SharedControls().faceBrush;
+                                 : kFaceBackground;
   definition.lpszClassName = row.name;
   return RegisterClassA(&definition) != 0;
 }

@@ -18,12 +18,13 @@ inline constexpr char kLinkClass[] = "ContainerLinkC";
 inline constexpr char kDrawerClass[] = "DexDrawerClass";
 
 // Registers all classes for the module, before a dialog that names them is made,
-// and takes them away after it. Needs the shared brushes. False when one of them
-// cannot be registered; the others are there then.
+// and takes them away after it. False when one of them cannot be registered; the
+// others are there then.
 [[nodiscard]] bool RegisterControlClasses(HINSTANCE instance);
 void UnregisterControlClasses(HINSTANCE instance);
 
-// Attaches and answers for the preview pane, which the dialog brings.
+// The procedure of the preview pane, which the dialog brings. Without one a pane does
+// nothing.
 void SetPreviewProc(WNDPROC procedure);
 
 // The record of a control, or null if the window is not of that class or has none.

@@ -26,7 +26,7 @@ struct TContaner {
   COLORREF colorActive = RGB(255, 255, 255);
   std::int32_t x = 0;  // in the parent's skin
   std::int32_t y = 0;
-  std::int32_t width = 0;  // of the client area, as it was made
+  std::int32_t width = 0;  // of the client area
   std::int32_t height = 0;
   std::uint8_t state = 0;  // ControlState
   std::uint8_t mode = 0;

@@ -25,6 +25,7 @@ void FreeSharedControls() {
     *brush = nullptr;
   }
   FreeControlFonts(shared.fonts);
+  shared.buttonBitmaps = {};
   shared.hotRotor = nullptr;
 }
 

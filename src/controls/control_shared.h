@@ -26,7 +26,8 @@ struct ControlShared {
 
 [[nodiscard]] ControlShared& SharedControls();
 
-// Brushes and cursor; before the classes are registered. Fonts come with the dialog.
+// Brushes and cursor; before controls are made. Fonts come with the dialog.
+// FreeSharedControls frees brushes and fonts, once all controls are gone.
 void MakeSharedControls(HINSTANCE instance);
 void FreeSharedControls();
 

@@ -5,7 +5,7 @@ namespace tarnwick {
 
 // A tip of its own for one control, over its whole client area, at most 100 pixels
 // wide; with a title it bears the information icon. Nothing without a window or a
-// text. The tip goes with the window.
+// text. The tip goes with the top-level window around it.
 void AddToolTip(HWND window, const char* text, const char* title);
 
 }  // namespace tarnwick

@@ -41,7 +41,8 @@ ControlPage::ControlPage() {
   WNDCLASSA definition{};
   definition.lpfnWndProc = PageProc;
   definition.hInstance = instance;
-  definition.hbrBackground = SharedControls().faceBrush;
+  // Not the shared brush: it would go with the class.
+  definition.hbrBackground = reinterpret_cast<HBRUSH>(static_cast<INT_PTR>(COLOR_BTNFACE + 1));
   definition.lpszClassName = kPageClass;
   RegisterClassA(&definition);
   window_ = CreateWindowExA(0, kPageClass, "Controls", WS_POPUP, 20, 20, 600, 440, nullptr, nullptr,

@@ -61,11 +61,44 @@ TEST(ControlClasses, AreThereByTheirExactNames) {
   EXPECT_EQ(FindControlRecord(nullptr, "Contaner CPP"), nullptr);
 }
 
+TEST(ControlClasses, HaveTheirCursorsAndBackgrounds) {
+  ControlPage page;
+  const HINSTANCE instance = GetModuleHandleA(nullptr);
+  const HBRUSH black = static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH));
+  const HBRUSH face = reinterpret_cast<HBRUSH>(static_cast<INT_PTR>(COLOR_BTNFACE + 1));
+  const HCURSOR arrow = LoadCursorA(nullptr, IDC_ARROW);
+  const HCURSOR move = LoadCursorA(nullptr, IDC_SIZEALL);
+  const struct {
+    const char* name;
+    UINT style;
+    HBRUSH background;
+    HCURSOR cursor;
+  } kCases[] = {{"Control Button CPP", 0, face, arrow},
+                {"Contaner Color CPP", 0, face, arrow},
+                {"Preview Contaner CPP", 0, black, move},
+                {"DexDrawerClass", CS_DBLCLKS, black, arrow}};
+  for (const auto& c : kCases) {
+    WNDCLASSA found{};
+    ASSERT_TRUE(GetClassInfoA(instance, c.name, &found)) << c.name;
+    EXPECT_EQ(found.style, c.style) << c.name;
+    EXPECT_EQ(found.hbrBackground, c.background) << c.name;
+    EXPECT_EQ(found.hCursor, c.cursor) << c.name;
+    EXPECT_GE(found.cbWndExtra, 4) << c.name;
+    EXPECT_EQ(found.hIcon, nullptr) << c.name;
+  }
+  // A class deletes its own brush when it goes.
+  UnregisterControlClasses(instance);
+  EXPECT_EQ(GetObjectType(SharedControls().faceBrush), static_cast<DWORD>(OBJ_BRUSH));
+}
+
 TEST(ControlButton, ShowsItsStateAndTells) {
   ControlPage page;
   ControlButton* const button =
-      CreateButtonControl(page.Window(), GetModuleHandleA(nullptr), 10, 10, 20, 12, 1126);
+      CreateButtonControl(page.Window(), GetModuleHandleA(nullptr), 10, 11, 20, 12, 1126);
   ASSERT_NE(button, nullptr);
+  EXPECT_EQ(button->x, 10);
+  EXPECT_EQ(button->y, 11);
+  EXPECT_EQ(ControlPage::PixelOf(button->window, 5, 5), GetSysColor(COLOR_BTNFACE));
   // Larger than the window: the top left is seen.
   button->normalBitmap = Filled(40, 40, kRed);
   button->hoverBitmap = Filled(40, 40, kGreen);
@@ -212,7 +245,8 @@ TEST(ImageButton, HasAPictureForEachState) {
   EXPECT_EQ(shown(), normal);
   Point(button, WM_MOUSEMOVE, 5, 5);
   EXPECT_EQ(shown(), hot);
-  Point(button, WM_MOUSEMOVE, 300, 5);
+  // The first column outside.
+  Point(button, WM_MOUSEMOVE, 30, 5);
   EXPECT_EQ(shown(), normal);
   EnableWindow(button, FALSE);
   EXPECT_EQ(shown(), disabled);
@@ -224,6 +258,15 @@ TEST(ImageButton, HasAPictureForEachState) {
   SendMessageA(button, BM_SETCHECK, BST_CHECKED, 0);
   EXPECT_EQ(shown(), checked);
   SendMessageA(button, BM_SETCHECK, BST_UNCHECKED, 0);
+  EXPECT_EQ(shown(), normal);
+  // On a disabled one the state before it counts.
+  EnableWindow(button, FALSE);
+  state.checkedDisabledBitmap = hot;
+  SendMessageA(button, BM_SETCHECK, BST_CHECKED, 0);
+  EXPECT_EQ(shown(), disabled);
+  SendMessageA(button, BM_SETCHECK, BST_UNCHECKED, 0);
+  EXPECT_EQ(shown(), hot);
+  EnableWindow(button, TRUE);
   EXPECT_EQ(shown(), normal);
   // Skinned again: not called twice for one message.
   SkinStockButton(state, button, hot, hot, disabled, nullptr, nullptr, nullptr);
@@ -243,6 +286,16 @@ TEST(ToolTip, IsOneForAControl) {
   ASSERT_NE(tip, nullptr);
   EXPECT_EQ(SendMessageA(tip, TTM_GETTOOLCOUNT, 0, 0), 1);
   EXPECT_EQ(SendMessageA(tip, TTM_GETMAXTIPWIDTH, 0, 0), 100);
+  char text[80] = {};
+  TOOLINFOA tool{};
+  tool.cbSize = TTTOOLINFOA_V1_SIZE;
+  tool.lpszText = text;
+  ASSERT_TRUE(SendMessageA(tip, TTM_ENUMTOOLSA, 0, reinterpret_cast<LPARAM>(&tool)));
+  EXPECT_STREQ(text, "Preview scale");
+  EXPECT_EQ(tool.hwnd, label);
+  EXPECT_EQ(tool.uFlags, UINT{TTF_SUBCLASS | TTF_CENTERTIP | TTF_TRANSPARENT});
+  const RECT whole = {0, 0, 60, 20};
+  EXPECT_TRUE(EqualRect(&tool.rect, &whole));
 }
 
 TEST(ControlShape, IsWhatTheStyleTells) {
@@ -259,6 +312,10 @@ TEST(ControlShape, IsWhatTheStyleTells) {
     EXPECT_EQ(GetWindowRgn(window, region), COMPLEXREGION) << style;
     EXPECT_FALSE(PtInRegion(region, 0, 0)) << style;
     EXPECT_TRUE(PtInRegion(region, 30, 10)) << style;
+    // Corners of 15 by 5 leave (8, 1) in, an ellipse of 30 by 10 does not; one of 31
+    // by 11 takes (2, 5) in.
+    EXPECT_EQ(PtInRegion(region, 8, 1) != FALSE, style == 2) << style;
+    EXPECT_EQ(PtInRegion(region, 2, 5) != FALSE, style != 1) << style;
   }
   DeleteObject(region);
 }
