@@ -20,6 +20,8 @@ struct Rotor : TContaner {
   float angleMaximum = 360;
   std::string title;
   std::uint8_t continuous = 0;
+  std::uint8_t shadeGridX = 10;  // of a look with a bitmap
+  std::uint8_t shadeGridY = 10;
   std::uint8_t look = kBallLook;
   std::uint8_t pressed = 1;
   std::uint8_t limited = 0;       // a knob keeps to its limits

@@ -115,12 +115,48 @@ TEST(OwnSlider, IsDragged) {
   EXPECT_EQ(slider->value, 100);
   EXPECT_THAT(page.TakeMessages(),
               ElementsAre(Message{WM_HSCROLL, 0, 0}, Message{WM_COMMAND, 5, 0}));
-  for (const std::uint8_t look : {kGaugeLook, kLineLook}) {
-    for (const std::uint8_t orientation : {kHorizontal, kVertical}) {
-      slider->look = look;
-      slider->orientation = orientation;
-      SetSliderLimits(*slider, 20, 60, true);
+}
+
+// 110 by 24, at 50 of 100: the pointer is at 55.
+TEST(OwnSlider, IsPaintedInTwoLooks) {
+  ControlPage page;
+  const HWND window = page.Add(kSliderClass, 5, 10, 10, 110, 24);
+  auto* const slider = GetControlRecord<TMacSlider>(window, kSliderClass);
+  ASSERT_NE(slider, nullptr);
+  SetSliderLimits(*slider, 20, 80, true);
+  SetSliderValue(*slider, 50, false);
+  constexpr COLORREF kBlack = RGB(0, 0, 0), kGrey = RGB(127, 127, 127), kRed = RGB(155, 0, 0);
+  const COLORREF face = GetSysColor(COLOR_BTNFACE);
+  const struct {
+    const char* what;
+    std::uint8_t look, orientation;
+    int x, y;
+    COLORREF on, off;
+  } kCases[] = {
+      {"the bar starts after the margin", kGaugeLook, kHorizontal, 5, 10, kBlack, kGrey},
+      {"the margin", kGaugeLook, kHorizontal, 4, 10, face, face},
+      {"a quarter of 24 down", kGaugeLook, kHorizontal, 40, 6, kBlack, kGrey},
+      {"and up", kGaugeLook, kHorizontal, 40, 17, kBlack, kGrey},
+      {"the pointer's base at the far side", kGaugeLook, kHorizontal, 55, 23, kBlack, kGrey},
+      {"low limit", kGaugeLook, kHorizontal, 25, 23, kRed, kRed},
+      {"high limit", kGaugeLook, kHorizontal, 85, 23, kRed, kRed},
+      {"a quarter of 110 across", kGaugeLook, kVertical, 27, 12, kBlack, kGrey},
+      {"the tip in the middle of 24", kGaugeLook, kVertical, 104, 12, kBlack, kGrey},
+      {"line", kLineLook, kHorizontal, 30, 12, kBlack, kGrey},
+      {"left tick", kLineLook, kHorizontal, 5, 7, kBlack, kGrey},
+      {"above it", kLineLook, kHorizontal, 5, 6, face, face},
+      {"right tick", kLineLook, kHorizontal, 105, 7, kBlack, kGrey},
+      {"behind the line", kLineLook, kHorizontal, 106, 12, face, face},
+      {"the pointer's base", kLineLook, kHorizontal, 52, 22, kBlack, kGrey},
+      {"beside it", kLineLook, kHorizontal, 51, 22, face, face},
+  };
+  for (const bool isOn : {true, false}) {
+    EnableWindow(window, isOn ? TRUE : FALSE);
+    for (const auto& c : kCases) {
+      slider->look = c.look;
+      slider->orientation = c.orientation;
       RedrawControl(window);
+      EXPECT_EQ(ControlPage::PixelOf(window, c.x, c.y), isOn ? c.on : c.off) << c.what;
     }
   }
 }

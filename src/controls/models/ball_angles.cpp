@@ -8,8 +8,7 @@ namespace {
 
 // Not all of its digits, and kept: offsets hang on it.
 constexpr float kPi = 3.141592F;
-constexpr float kDegreesOfRadian = 180.0F / kPi;
-constexpr float kExactDegrees = 57.29579143313326F;
+constexpr float kDegreesOfRadian = 57.29579143313326F;  // 180 by that
 
 float Radians(float degrees) {
   return degrees * kPi / 180.0F;
@@ -73,13 +72,13 @@ BallOffset OffsetOf(float azimuth, float altitude) {
 
 BallAngles AnglesOf(BallOffset offset) {
   BallAngles angles;
-  angles.azimuth = std::atan2(offset.y, offset.x) * kExactDegrees;
+  angles.azimuth = std::atan2(offset.y, offset.x) * kDegreesOfRadian;
   const float fold = Fold(angles.azimuth);
   const float x = offset.x * fold;
   const float y = -offset.y * fold;
   const float q = x * x + y * y;
   angles.altitude =
-      std::atan2(std::sqrt(std::max(0.0F, 10000.0F - q)), std::sqrt(q)) * kExactDegrees;
+      std::atan2(std::sqrt(std::max(0.0F, 10000.0F - q)), std::sqrt(q)) * kDegreesOfRadian;
   return angles;
 }
 

@@ -117,6 +117,19 @@ TEST(BallShade, IsLitFromWhereTheLightStands) {
   EXPECT_EQ(above.size(), std::size_t{kWidth} * kHeight * 4);
 }
 
+// Lit from above a point of a ball of radius 25 is as bright as it is high: at 7 of
+// 25 across it is 24 high, at 24 across 7.
+TEST(BallShade, HasASpotAndARimThatFades) {
+  constexpr FaceColor kFace{240, 230, 220};
+  const auto plain = ShadedBall(50, 50, {0, 90, false}, kFace);
+  const auto spotted = ShadedBall(50, 50, {0, 90, true}, kFace);
+  // (24/25)^3 is 0.8847, times 205 and 50; its 20th power adds 0.0863.
+  EXPECT_EQ(PixelOf(plain, 50, 32, 25), (Rgb{231, 231, 231}));
+  EXPECT_EQ(PixelOf(spotted, 50, 32, 25), (Rgb{249, 249, 249}));
+  // (7/25)^3 gives 54.50; of that 7/11, and 4/11 of the face.
+  EXPECT_EQ(PixelOf(plain, 50, 49, 25), (Rgb{121, 118, 114}));
+}
+
 TEST(BallShade, MarksThePoint) {
   const BallMarker right = MarkerOf(80, 60, 0, 0);
   EXPECT_EQ(right.x, 70);  // 40 + 0.99 * 30
