@@ -1,5 +1,6 @@
 # Windows from Debian's cross compilers, with POSIX threads and everything but the
-# system's own libraries linked in. CMAKE_SYSTEM_PROCESSOR says which.
+# system's own libraries linked in. CMAKE_SYSTEM_PROCESSOR says which, TARNWICK_WINE
+# what runs such programs here.
 set(CMAKE_SYSTEM_NAME Windows)
 set(triple ${CMAKE_SYSTEM_PROCESSOR}-w64-mingw32)
 set(CMAKE_CXX_COMPILER ${triple}-g++-posix)

@@ -1,2 +1,3 @@
 set(CMAKE_SYSTEM_PROCESSOR i686)
+set(TARNWICK_WINE "${CMAKE_CURRENT_LIST_DIR}/../tools/wine32")
 include("${CMAKE_CURRENT_LIST_DIR}/mingw.cmake")

@@ -1,6 +1,6 @@
 """The page of controls, with a real pointer and real keys.
 
-Usage: control_page.py --wine32 TOOL --agent EXE --page EXE --shots FOLDER [NAME...]
+Usage: control_page.py --wine TOOL --agent EXE --page EXE --shots FOLDER [NAME...]
 """
 import math
 import os

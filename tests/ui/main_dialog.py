@@ -1,6 +1,6 @@
 """The main dialog in the test host, with a real pointer and real keys.
 
-Usage: main_dialog.py --wine32 TOOL --agent EXE --host EXE --module FILE --data FOLDER
+Usage: main_dialog.py --wine TOOL --agent EXE --host EXE --module FILE --data FOLDER
            --lists FOLDER --fresh-view EXE --shots FOLDER [NAME...]
 
 The fresh view renders the same picture with the same textures, as the command line

@@ -38,20 +38,20 @@ def run(description, open_program, add_arguments=lambda parser: None):
     close() ends what is still there.
     """
     parser = argparse.ArgumentParser(description=description)
-    parser.add_argument("--wine32", required=True)
+    parser.add_argument("--wine", required=True, help="tools/wine32 or tools/wine64")
     parser.add_argument("--agent", required=True)
     parser.add_argument("--shots", required=True, help="folder for pictures and logs")
     add_arguments(parser)
     parser.add_argument("names", nargs="*", help="all, if none is named")
     arguments = parser.parse_args()
-    if subprocess.run([arguments.wine32, "status"], stdout=subprocess.DEVNULL).returncode:
-        print("no Wine here, so no window is tried (tools/setup mingw32 installs it)")
+    if subprocess.run([arguments.wine, "status"], stdout=subprocess.DEVNULL).returncode:
+        print(f"no Wine here, so no window is tried ({arguments.wine} setup installs it)")
         sys.exit(1 if os.environ.get("TARNWICK_NO_SKIP") else 77)
     chosen = [(function, resolutions) for function, resolutions in SCENARIOS
               if not arguments.names or function.__name__ in arguments.names]
     failed = count = 0
     for dpi in sorted({one for _, resolutions in chosen for one in resolutions}):
-        with Session(arguments.wine32, arguments.agent, arguments.shots, dpi) as session:
+        with Session(arguments.wine, arguments.agent, arguments.shots, dpi) as session:
             for function in [one for one, resolutions in chosen if dpi in resolutions]:
                 count += 1
                 failed += not run_one(function, session, arguments, open_program)

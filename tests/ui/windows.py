@@ -12,7 +12,7 @@ from screen import Screen, Timeout, wait_for
 
 
 class Session:
-    def __init__(self, wine32, agent, folder, dpi=96):
+    def __init__(self, wine, agent, folder, dpi=96):
         self.folder, self.dpi = os.path.abspath(folder), dpi
         os.makedirs(self.folder, exist_ok=True)
         self.screen = Screen()
@@ -20,7 +20,7 @@ class Session:
         with open(self._pages, "w"):
             pass
         self._agent = subprocess.Popen(
-            [wine32, "run", agent, str(dpi), self._pages], stdin=subprocess.PIPE,
+            [wine, "run", agent, str(dpi), self._pages], stdin=subprocess.PIPE,
             stdout=subprocess.PIPE, env=dict(os.environ, DISPLAY=self.screen.display))
         self._bytes = b""
         self._programs = 0
