@@ -1,5 +1,6 @@
 #include "presets/auto_randomize.h"
 
+#include "base/native_path.h"
 #include "presets/auto_wash.h"
 #include "presets/color_list.h"
 #include "presets/preset_file.h"
@@ -22,9 +23,9 @@ constexpr std::uint32_t kDrawerSeed = 12345678;
 // without their extension, in whatever capitals that is.
 std::string SpelledIn(const fs::path& folder, const std::string& name) {
   std::error_code error;
-  if (fs::exists(folder / name, error)) return name;
+  if (fs::exists(folder / PathOfName(name), error)) return name;
   for (const fs::directory_entry& entry : fs::directory_iterator(folder, error)) {
-    std::string found = entry.path().filename().string();
+    std::string found = NameOfPath(entry.path().filename());
     if (EqualIgnoringCase(found, name)) return found;
   }
   return name;
@@ -98,7 +99,7 @@ class Thrower {
   void ReadColors(const std::string& name) {
     const fs::path folder = library_.presetRoot / PresetFolder(PresetKind::kSurfaceColor);
     const std::string file = name + "." + std::string(kPresetExtension);
-    (void)LoadPresetFile(folder / SpelledIn(folder, file), settings_, session_);
+    (void)LoadPresetFile(folder / PathOfName(SpelledIn(folder, file)), settings_, session_);
   }
 
   void ThrowSurfaceColors() {

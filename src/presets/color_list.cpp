@@ -1,5 +1,6 @@
 #include "presets/color_list.h"
 
+#include "base/native_path.h"
 #include "presets/color_preset.h"
 #include "presets/preset_file.h"
 #include "settings/ascii_text.h"
@@ -18,7 +19,7 @@ std::vector<ColorRecord> ListColorPresets(const std::filesystem::path& folder,
   records.push_back({kResetColorsName, {}});
   for (const std::string& name : names) {
     std::string category;
-    (void)ReadColorCategoryOf(folder / name, category);
+    (void)ReadColorCategoryOf(folder / PathOfName(name), category);
     records.push_back({name, SplitCategories(category)});
   }
   return records;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <system_error>
 
+#include "base/native_path.h"
 #include "settings/ascii_text.h"
 #include "settings/effect_settings.h"
 
@@ -77,8 +78,8 @@ std::vector<std::string> ScanTextureNames(const fs::path& folder) {
        entry.increment(fault)) {
     const fs::path name = entry->path().filename();
     std::error_code ignored;
-    if (EqualIgnoringCase(name.extension().string(), ".twk") && !entry->is_directory(ignored)) {
-      names.push_back(name.string());
+    if (EqualIgnoringCase(NameOfPath(name.extension()), ".twk") && !entry->is_directory(ignored)) {
+      names.push_back(NameOfPath(name));
     }
   }
   return names;

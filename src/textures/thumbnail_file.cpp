@@ -7,6 +7,7 @@
 #include <string_view>
 #include <system_error>
 
+#include "base/native_path.h"
 #include "base/unused_name.h"
 
 namespace tarnwick {
@@ -61,7 +62,7 @@ std::string BitmapBytes(const ThumbnailPicture& picture) {
 // Empty if the file cannot be read or is no thumbnail by its length.
 std::string ReadBytes(const std::string& path) {
   std::error_code error;
-  const std::uintmax_t length = std::filesystem::file_size(path, error);
+  const std::uintmax_t length = std::filesystem::file_size(PathOfName(path), error);
   if (error || length < kHeaderBytes || length > kMostBytes) return {};
   std::ifstream file(path, std::ios::binary);
   std::string bytes(static_cast<std::size_t>(length), '\0');
@@ -69,7 +70,7 @@ std::string ReadBytes(const std::string& path) {
   return bytes;
 }
 
-bool WriteBytes(const std::string& path, const std::string& bytes) {
+bool WriteBytes(const std::filesystem::path& path, const std::string& bytes) {
   std::ofstream file(path, std::ios::binary | std::ios::trunc);
   file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
   file.close();
@@ -111,10 +112,11 @@ std::optional<ThumbnailPicture> ReadThumbnail(const std::string& path, Thumbnail
 }
 
 bool WriteThumbnail(const std::string& path, const ThumbnailPicture& picture) {
-  const std::string part = UnusedNameBeside(path).string();
+  const std::filesystem::path target = PathOfName(path);
+  const std::filesystem::path part = UnusedNameBeside(target);
   std::error_code error;
   if (WriteBytes(part, BitmapBytes(picture))) {
-    std::filesystem::rename(part, path, error);
+    std::filesystem::rename(part, target, error);
     if (!error) return true;
   }
   std::filesystem::remove(part, error);

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "base/checked_size.h"
+#include "base/native_path.h"
 
 namespace tarnwick {
 namespace {
@@ -54,7 +55,7 @@ bool SizesAgree(const WashFileHeader& header, std::size_t sampleCount) {
          all == sampleCount;
 }
 
-bool WriteAll(const std::string& path, const HeaderBytes& header,
+bool WriteAll(const std::filesystem::path& path, const HeaderBytes& header,
               std::span<const std::uint8_t> payload) {
   std::ofstream file(path, std::ios::binary | std::ios::trunc);
   file.write(reinterpret_cast<const char*>(header.data()),
@@ -84,13 +85,14 @@ WashWriteOutcome WriteWashFile(const std::string& path, const WashFileHeader& he
   }
   packed.resize(packedLength);
 
-  const std::string part = path + ".part";
+  const std::filesystem::path target = PathOfName(path);
+  const std::filesystem::path part = PathOfName(path + ".part");
   std::error_code error;
   if (!WriteAll(part, EncodeHeader(header), packed)) {
     std::filesystem::remove(part, error);
     return WashWriteOutcome::kCannotWrite;
   }
-  std::filesystem::rename(part, path, error);
+  std::filesystem::rename(part, target, error);
   if (error) {
     std::error_code ignored;
     std::filesystem::remove(part, ignored);
