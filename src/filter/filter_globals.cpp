@@ -7,4 +7,10 @@ FilterGlobals& Globals() {
   return globals;
 }
 
+PresetSession& PresetsOf(FilterGlobals& g) {
+  // Not there from the start: it refers to the session beside it, wherever that lies.
+  if (g.presets == nullptr) g.presets = std::make_unique<PresetSession>(g.session);
+  return *g.presets;
+}
+
 }  // namespace tarnwick

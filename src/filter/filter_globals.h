@@ -1,5 +1,6 @@
 #pragma once
 #include <cstdint>
+#include <memory>
 #include <string>
 
 #include "engine/effect_layer.h"
@@ -44,6 +45,7 @@ struct FilterGlobals {
   SettingsSession session;
   UiValues ui;
   Folders folders;
+  std::unique_ptr<PresetSession> presets;  // see PresetsOf
 
   // Of the present run.
   RenderState render;
@@ -61,5 +63,8 @@ struct FilterGlobals {
 
 // The one set of them.
 [[nodiscard]] FilterGlobals& Globals();
+
+// What presets keep from one file to the next, made when the first is read.
+[[nodiscard]] PresetSession& PresetsOf(FilterGlobals& g);
 
 }  // namespace tarnwick
