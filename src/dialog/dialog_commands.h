@@ -24,6 +24,8 @@ inline constexpr int kLeftHeader = 1161;
 inline constexpr int kZoomToFit = 9001;
 inline constexpr int kZoomToFull = 9002;
 inline constexpr int kTabControl = 999;
+// To a page: all pages show the settings anew.
+inline constexpr int kShowAllPages = 9777;
 
 // What an edit field's parent hears of Escape in it, with the field's id.
 inline constexpr int kEditCancelled = 27;

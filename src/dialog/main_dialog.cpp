@@ -72,7 +72,7 @@ HINSTANCE ModuleInstance(FilterGlobals& g) {
 
 }  // namespace
 
-MainDialog::MainDialog(FilterGlobals& g) : g_(g) {}
+MainDialog::MainDialog(FilterGlobals& g) : g_(g), dice_(GetTickCount()) {}
 
 INT_PTR MainDialog::Run(HINSTANCE instance, HWND owner) {
   instance_ = instance;

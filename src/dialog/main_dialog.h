@@ -3,21 +3,24 @@
 
 #include <array>
 #include <exception>
-#include <functional>
 #include <memory>
 
 #include "dialog/bitmap_set.h"
+#include "dialog/edits/setting_edits.h"
 #include "dialog/effect_tabs.h"
 #include "dialog/help_viewer.h"
 #include "dialog/models/dialog_layout.h"
 #include "dialog/models/effect_strip.h"
 #include "dialog/models/effect_views.h"
 #include "dialog/models/strip_commands.h"
+#include "dialog/pages/settings_pages.h"
+#include "dialog/presets/preset_library.h"
 #include "dialog/preview/live_preview.h"
 #include "dialog/preview_pane.h"
 #include "dialog/shadow_strips.h"
 #include "dialog/zoom_buttons.h"
 #include "filter/filter_globals.h"
+#include "presets/auto_dice.h"
 
 namespace tarnwick {
 
@@ -68,6 +71,7 @@ class MainDialog {
   void Finish();
   void FindFrame();
   void MakeTabs();
+  void MakePages();
   void MakeOptions();
   void ShowOptions();
   void EnableOptions();
@@ -80,6 +84,7 @@ class MainDialog {
   void Place();
   void Resized();
   INT_PTR LimitTrackSize(LPARAM info) const;
+  [[nodiscard]] RECT PagePlace() const;
 
   // main_dialog_paint.cpp
   void Paint();
@@ -106,6 +111,7 @@ class MainDialog {
   void ResetPressed();
   void DoLayerWork(LayerWork work);
   void UpdatePage(PageUpdate update);
+  void PropagateLinksOf(LayerKind kind);
 
   [[nodiscard]] HWND Item(int id) const { return GetDlgItem(window_, id); }
   [[nodiscard]] PaneSize PaneNow() const;
@@ -130,11 +136,13 @@ class MainDialog {
   EffectViews views_;
   StripFrame stripFrame_;
   EffectTabs effectTabs_;
-  // The page's answer; none as long as there is no page.
-  std::function<void(PageUpdate)> updatePage_;
 
   Bar bar_;
   std::unique_ptr<LivePreview> preview_;
+  std::unique_ptr<SettingEdits> edits_;
+  std::unique_ptr<PresetLibrary> presets_;
+  std::unique_ptr<SettingsPages> pages_;
+  AutoDice dice_;
   std::unique_ptr<HelpViewer> help_;
   TPreviewContaner* pane_ = nullptr;  // its window's
   BitmapSet bitmaps_;

@@ -154,6 +154,7 @@ void MainDialog::MoveOffset(int dx, int dy) {
   if (!preview_) return;
   const auto page = static_cast<EffectPage>(views_.currentTab);
   if (!preview_->MoveActiveOffset(page, views_.Current(), dx, dy)) return;
+  if (pages_) pages_->ShowWashOffset();
   SendMessageA(window_, WM_COMMAND, MAKEWPARAM(kPane, kPanEnded), 0);
 }
 
@@ -215,6 +216,7 @@ void MainDialog::SelectTab() {
   if (tab < 0 || tab >= kTabs) return;
   views_.currentTab = static_cast<std::uint8_t>(tab);
   ShowEffectTabs();
+  if (pages_) pages_->Select(tab, PagePlace());
   SendMessageA(window_, WM_COMMAND, kSettingsChanged, 0);
 }
 
@@ -246,6 +248,7 @@ void MainDialog::SetBusy(bool isBusy) {
   constexpr int kBusyItems[] = {IDOK, IDCANCEL, kTabControl, kManual, kViewAll, kAuto, kAbout};
   for (const int id : kBusyItems) EnableWindow(Item(id), isBusy ? FALSE : TRUE);
   effectTabs_.Enable(!isBusy);
+  if (pages_) pages_->EnableWindowOfPage(!isBusy);
   if (!isBusy) ShowEffectTabs();
 }
 

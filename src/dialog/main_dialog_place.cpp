@@ -1,4 +1,8 @@
 // Where the main dialog's controls lie.
+#include <windows.h>
+
+#include <commctrl.h>
+
 #include "controls/control_shared.h"
 #include "dialog/dialog_commands.h"
 #include "dialog/main_dialog.h"
@@ -57,6 +61,7 @@ void MainDialog::Place() {
               i == kBackgroundOption ? layout_.backgroundLabel : layout_.optionLabel);
     }
   }
+  if (pages_) pages_->Place(PagePlace());
   // As wide as the pane, which is rounded up.
   strips_.SetWidth(layout_.pane.width);
   stripFrame_.previewRight = layout_.previewRight;
@@ -75,6 +80,16 @@ void MainDialog::Resized() {
   RedrawWindow(window_, nullptr, nullptr,
                RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW | RDW_ALLCHILDREN);
   PrintPercentage();
+}
+
+// Where the tab control shows its pages, in the dialog.
+RECT MainDialog::PagePlace() const {
+  RECT place{};
+  GetClientRect(tabs_, &place);
+  MapWindowPoints(tabs_, window_, reinterpret_cast<POINT*>(&place), 2);
+  SendMessageA(tabs_, TCM_ADJUSTRECT, FALSE, reinterpret_cast<LPARAM>(&place));
+  InflateRect(&place, -GetSystemMetrics(SM_CXEDGE), -GetSystemMetrics(SM_CYEDGE));
+  return place;
 }
 
 INT_PTR MainDialog::LimitTrackSize(LPARAM info) const {

@@ -121,6 +121,7 @@ void MainDialog::Start() {
     };
   }
   MakeTabs();
+  MakePages();
   MakeStrip();
   ShowOptions();
   EnableOptions();
@@ -174,6 +175,32 @@ void MainDialog::MakeTabs() {
     item.pszText = texts[i];
     SendMessageA(tabs_, TCM_INSERTITEMA, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(&item));
   }
+}
+
+void MainDialog::MakePages() {
+  edits_ = std::make_unique<SettingEdits>(g_, views_, preview_.get());
+  preview_->SetLinkPropagation([this](LayerKind kind) { PropagateLinksOf(kind); });
+  presets_ = std::make_unique<PresetLibrary>(
+      g_, views_, lastUsedSnapshot_,
+      PresetLibraryHooks{[this] { SyncStrip(); }, [this] { ShowOptions(); },
+                         [this] { SendMessageA(window_, WM_COMMAND, kSettingsChanged, 0); },
+                         [this] { UpdatePage(PageUpdate::kShowSettings); },
+                         [this](KeptLayers kept) { preview_->RemakeLayers(kept); }});
+  if (tabs_ == nullptr) return;
+  pages_ = std::make_unique<SettingsPages>(PageContext{g_,
+                                                       views_,
+                                                       instance_,
+                                                       window_,
+                                                       *edits_,
+                                                       *presets_,
+                                                       bitmaps_,
+                                                       dice_,
+                                                       [this] { EndDialog(window_, IDCANCEL); },
+                                                       [this] { Fail(); },
+                                                       {},
+                                                       [](int) {},
+                                                       [](int) {}});
+  pages_->Select(views_.currentTab, PagePlace());
 }
 
 void MainDialog::EnableOptions() {
@@ -256,6 +283,9 @@ void MainDialog::Finish() {
     settings.WindowHeight = place.bottom - place.top;
   }
   pane_ = nullptr;
+  pages_.reset();
+  presets_.reset();
+  edits_.reset();
   preview_.reset();
   FreeDocumentLayers(g_);
   bitmaps_.Free();

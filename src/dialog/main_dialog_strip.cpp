@@ -31,6 +31,7 @@ void MainDialog::ShowEffectTabs() {
 }
 
 void MainDialog::ChooseInStrip(int command) {
+  if (pages_) pages_->FinishSpins();
   DoLayerWork(ChooseView(views_, *g_.gParams, command));
   ShowEffectTabs();
   UpdatePage(ShowsOneEffect(views_) ? PageUpdate::kShowSettings : PageUpdate::kEnable);
@@ -39,6 +40,7 @@ void MainDialog::ChooseInStrip(int command) {
 
 void MainDialog::ResetPressed() {
   if (views_.currentTab == kBasicTab && !ConfirmsResetAll(window_)) return;
+  if (pages_) pages_->FinishSpins();
   const KeptLayers kept = ResetPage(*g_.gParams, g_.session, views_.currentTab);
   // First, lest the pane shows a second effect that has gone.
   SyncStrip();
@@ -85,7 +87,18 @@ void MainDialog::DoLayerWork(LayerWork work) {
 }
 
 void MainDialog::UpdatePage(PageUpdate update) {
-  if (updatePage_) updatePage_(update);
+  SettingsPage* const page = pages_ ? pages_->Current() : nullptr;
+  if (page == nullptr) return;
+  if (update == PageUpdate::kShowSettings) {
+    page->ShowValues();
+  } else {
+    page->Enable();
+  }
+}
+
+void MainDialog::PropagateLinksOf(LayerKind kind) {
+  if (kind == LayerKind::kWash && pages_) pages_->ShowWashOffset();
+  if (edits_) PropagateLinks(edits_->Scope(), kind);
 }
 
 }  // namespace tarnwick

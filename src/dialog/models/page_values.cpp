@@ -1,0 +1,66 @@
+#include "dialog/models/page_values.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
+#include <limits>
+
+#include "base/truncate.h"
+
+namespace tarnwick {
+
+float ParseValue(std::string_view text) {
+  const std::string head(text.substr(0, kMaxValueText));
+  const float value = std::strtof(head.c_str(), nullptr);
+  return std::isnan(value) ? 0.0F : value;
+}
+
+std::int32_t ParseWhole(std::string_view text) {
+  const std::string head(text.substr(0, kMaxValueText));
+  const long long value = std::strtoll(head.c_str(), nullptr, 10);
+  return static_cast<std::int32_t>(std::clamp<long long>(
+      value, std::numeric_limits<std::int32_t>::min(), std::numeric_limits<std::int32_t>::max()));
+}
+
+std::string WholeText(std::int32_t value) {
+  return std::to_string(value);
+}
+
+std::string AngleText(float value) {
+  char text[64];
+  std::snprintf(text, sizeof text, "%0.2f", static_cast<double>(value));
+  return text;
+}
+
+std::string TextureTitle(std::string_view fileName) {
+  constexpr std::string_view kExtension = ".twk";
+  std::string title(fileName);
+  if (title.size() < kExtension.size()) return title;
+  const std::size_t stem = title.size() - kExtension.size();
+  const bool isTexture = std::equal(
+      kExtension.begin(), kExtension.end(), title.begin() + static_cast<std::ptrdiff_t>(stem),
+      [](char a, char b) { return a == (b >= 'A' && b <= 'Z' ? b + 32 : b); });
+  if (isTexture) title.resize(stem);
+  return title;
+}
+
+TextureOffset OffsetOfBall(BallOffset ball, TextureOffset range) {
+  const auto along = [](float share, std::int32_t length) {
+    return TruncateToInt(static_cast<double>(share * static_cast<float>(length) / 200.0F));
+  };
+  return {along(100.0F - ball.x, range.x), along(ball.y + 100.0F, range.y)};
+}
+
+BallOffset BallOfOffset(TextureOffset offset, TextureOffset range) {
+  const auto share = [](std::int32_t gone, std::int32_t length) {
+    return length == 0 ? 100.0F : static_cast<float>(gone) * 200.0F / static_cast<float>(length);
+  };
+  return {100.0F - share(offset.x, range.x), share(offset.y, range.y) - 100.0F};
+}
+
+std::int32_t LimitOffset(std::int32_t typed, std::int32_t range) {
+  return std::max(std::min(typed, range - 1), 0);
+}
+
+}  // namespace tarnwick
