@@ -9,8 +9,8 @@ LayerSlot WashSlot(EffectLayers& layers, EffectSettings& s, bool second) {
     return {LayerKind::kWash, &layers.washes[1], s.WashFileName2, &s.WashScale2, &s.WashFlipVer2,
             &s.WashFlipHor2,  &s.WashOffsetX2,   &s.WashOffsetY2, &s.WashAngle2};
   }
-  return {LayerKind::kWash, &layers.washes[0], s.WashFileName1, &s.WashScale1, &s.WashFlipVer1,
-          &s.WashFlipHor1,  &s.WashOffsetX1,   &s.WashOffsetY1, &s.WashAngle1};
+  return {LayerKind::kWash, layers.washes.data(), s.WashFileName1, &s.WashScale1, &s.WashFlipVer1,
+          &s.WashFlipHor1,  &s.WashOffsetX1,      &s.WashOffsetY1, &s.WashAngle1};
 }
 
 LayerSlot SurfaceSlot(EffectLayers& layers, EffectSettings& s, bool second) {
@@ -19,9 +19,9 @@ LayerSlot SurfaceSlot(EffectLayers& layers, EffectSettings& s, bool second) {
             &s.SurfaceScale2,    &s.SurfaceFlipVer2,  &s.SurfaceFlipHor2,
             &s.SurfaceOffsetX2,  &s.SurfaceOffsetY2,  &s.SurfaceAngle2};
   }
-  return {LayerKind::kSurface, &layers.surfaces[0], s.SurfaceFileName1,
-          &s.SurfaceScale1,    &s.SurfaceFlipVer1,  &s.SurfaceFlipHor1,
-          &s.SurfaceOffsetX1,  &s.SurfaceOffsetY1,  &s.SurfaceAngle1};
+  return {LayerKind::kSurface, layers.surfaces.data(), s.SurfaceFileName1,
+          &s.SurfaceScale1,    &s.SurfaceFlipVer1,     &s.SurfaceFlipHor1,
+          &s.SurfaceOffsetX1,  &s.SurfaceOffsetY1,     &s.SurfaceAngle1};
 }
 
 LayerSlot BackgroundSlot(EffectLayers& layers, EffectSettings& s) {

@@ -8,8 +8,18 @@
 namespace tarnwick {
 namespace {
 
-// A field, or the two of a pair.
-template <auto kFirst, auto kSecond = kFirst>
+// A field that there is once.
+template <auto kField>
+constexpr NumberField Number() {
+  using Settings = EffectSettings;
+  return {[](const Settings& s, bool) { return static_cast<std::int32_t>(s.*kField); },
+          [](Settings& s, bool, std::int32_t value) {
+            s.*kField = static_cast<std::remove_reference_t<decltype(s.*kField)>>(value);
+          }};
+}
+
+// The two of a pair.
+template <auto kFirst, auto kSecond>
 constexpr NumberField Number() {
   using Settings = EffectSettings;
   return {[](const Settings& s, bool second) {
