@@ -83,6 +83,9 @@ void SettingEdits::Finish(int tab, const ControlRow& row) {
   const std::int32_t value = Value(tab, row);
   if (row.setter == LayerSetter::kScale) {
     SetScale(*slot->layer, g_.render, value);
+    // A smaller texture may not reach as far: what is seen is what will be made.
+    *slot->offsetX = slot->layer->offsetX;
+    *slot->offsetY = slot->layer->offsetY;
   } else if (row.setter == LayerSetter::kCoverage) {
     SetCoverage(*slot->layer, g_.render, value);
   } else {
