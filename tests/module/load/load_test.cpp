@@ -9,12 +9,11 @@
 #include <string>
 
 #include "float_controls.h"
+#include "module_path.h"
 #include "small_host.h"
 
 namespace tarnwick {
 namespace {
-
-std::string modulePath;
 
 using DialogProcedure = INT_PTR CALLBACK(HWND, UINT, WPARAM, LPARAM);
 
@@ -47,9 +46,9 @@ SIZE_T CommittedBytes() {
 
 class Loaded {
  public:
-  Loaded() : library_(LoadLibraryA(modulePath.c_str())) {
+  Loaded() : library_(LoadLibraryA(ModulePath().c_str())) {
     if (library_ == nullptr) {
-      ADD_FAILURE() << modulePath << " does not load: error " << GetLastError();
+      ADD_FAILURE() << ModulePath() << " does not load: error " << GetLastError();
       return;
     }
     entryPoint = Find<EntryPoint>("PluginMain");
@@ -177,7 +176,7 @@ int main(int argc, char** argv) {
     std::fputs("usage: tarnwick_load_tests MODULE\n", stderr);
     return 2;
   }
-  tarnwick::modulePath = argv[1];
+  tarnwick::ModulePath() = argv[1];
   std::freopen("NUL", "w", stderr);  // what the module says of missing textures
   return RUN_ALL_TESTS();
 }

@@ -60,7 +60,7 @@ SmallHost::~SmallHost() {
   if (slot_ != 0) DisposeBlock(reinterpret_cast<host::Handle>(slot_));
 }
 
-void SmallHost::TakeTexturesAway() {
+void SmallHost::ChooseTextures() {
   auto* const settings = reinterpret_cast<EffectSettings*>(*record_.parameters);
   for (char* const name :
        {settings->WashFileName1, settings->WashFileName2, settings->SurfaceFileName1,
@@ -68,6 +68,12 @@ void SmallHost::TakeTexturesAway() {
     std::strcpy(name, kNoTextureName);
   }
   settings->WashUse = settings->SurfaceUse = settings->BackgroundUse = 0;
+  if (washTexture_ != nullptr) {
+    std::strcpy(settings->WashFileName1, washTexture_);
+    settings->WashUse = 1;
+    settings->WashType1 = 1;
+    settings->WashStainColor1 = 0x0000FF;
+  }
   // The session's first byte asks for the dialog.
   **reinterpret_cast<host::Handle>(slot_) = 0;
 }
@@ -78,7 +84,7 @@ std::int16_t SmallHost::Run(EntryPoint* entryPoint) {
     std::int16_t result = 0;
     entryPoint(selector, &record_, &slot_, &result);
     if (result != 0 || record_.parameters == nullptr || slot_ == 0) return result != 0 ? result : 1;
-    if (selector == host::filterSelectorPrepare) TakeTexturesAway();
+    if (selector == host::filterSelectorPrepare) ChooseTextures();
   }
   std::int16_t result = 0;
   entryPoint(host::filterSelectorFinish, &record_, &slot_, &result);

@@ -9,14 +9,17 @@ namespace tarnwick {
 using EntryPoint = void(std::int16_t, void*, std::intptr_t*, std::int16_t*);
 
 // Takes a picture of 96 x 64 RGB samples through one whole run, without the
-// dialog and with no texture in any group. Only blocks, rectangles and pixels are
-// offered to the module. One at a time.
+// dialog and with no texture in any group, unless one is given to the wash. Only
+// blocks, rectangles and pixels are offered to the module. One at a time.
 class SmallHost {
  public:
   SmallHost();
   ~SmallHost();
   SmallHost(const SmallHost&) = delete;
   SmallHost& operator=(const SmallHost&) = delete;
+
+  // A file of the module's data folder, to stain the picture by.
+  void StainBy(const char* texture) { washTexture_ = texture; }
 
   // The first error of a selector; 0 if there was none.
   [[nodiscard]] std::int16_t Run(EntryPoint* entryPoint);
@@ -26,8 +29,9 @@ class SmallHost {
   [[nodiscard]] const std::vector<std::uint8_t>& Original() const { return input_; }
 
  private:
-  void TakeTexturesAway();
+  void ChooseTextures();
 
+  const char* washTexture_ = nullptr;
   std::vector<std::uint8_t> input_;
   std::vector<std::uint8_t> output_;
   host::HandleProcs handles_{};
