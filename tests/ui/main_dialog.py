@@ -233,7 +233,8 @@ def header_follows_the_pointer(run):
 def opens_often_and_leaves_nothing(run):
     """The host opens and cancels it by itself, with ten refreshes each time."""
     run.start(width=16, height=12, lines=["open 200 dialogs"])
-    equal(run.program.wait(120), 0)
+    # Half a second each, and more beside other tests.
+    equal(run.program.wait(400), 0)
 
 
 def add_arguments(parser):

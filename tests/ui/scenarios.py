@@ -31,6 +31,10 @@ def near(got, want, allowed):
     assert abs(got - want) <= allowed, f"{got} is not {want}, nor within {allowed} of it"
 
 
+def file_of(function):
+    return os.path.splitext(os.path.basename(function.__code__.co_filename))[0]
+
+
 def run(description, open_program, add_arguments=lambda parser: None):
     """The scenarios of a file, as its arguments ask for; ends the program.
 
@@ -42,13 +46,19 @@ def run(description, open_program, add_arguments=lambda parser: None):
     parser.add_argument("--agent", required=True)
     parser.add_argument("--shots", required=True, help="folder for pictures and logs")
     add_arguments(parser)
+    parser.add_argument("--of", action="append", metavar="FILE",
+                        help="only the scenarios of this file, without .py")
+    parser.add_argument("--not-of", action="append", metavar="FILE", default=[],
+                        help="all but those of this file")
     parser.add_argument("names", nargs="*", help="all, if none is named")
     arguments = parser.parse_args()
     if subprocess.run([arguments.wine, "status"], stdout=subprocess.DEVNULL).returncode:
         print(f"no Wine here, so no window is tried ({arguments.wine} setup installs it)")
         sys.exit(1 if os.environ.get("TARNWICK_NO_SKIP") else 77)
     chosen = [(function, resolutions) for function, resolutions in SCENARIOS
-              if not arguments.names or function.__name__ in arguments.names]
+              if (not arguments.names or function.__name__ in arguments.names)
+              and (not arguments.of or file_of(function) in arguments.of)
+              and file_of(function) not in arguments.not_of]
     failed = count = 0
     for dpi in sorted({one for _, resolutions in chosen for one in resolutions}):
         with Session(arguments.wine, arguments.agent, arguments.shots, dpi) as session:
