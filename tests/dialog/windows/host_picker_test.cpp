@@ -32,7 +32,7 @@ TEST(HostPicker, AsksWithTheColourAndTakesTheChosenOne) {
   COLORREF color = 0x00807060;  // red in the low byte
   EXPECT_EQ(HostPickerOf(Services)(color), Choice::kChosen);
   EXPECT_EQ(color, 1U + 130U * 256U + 255U * 65536U);
-  EXPECT_EQ(asked.info.infoSize, 36);
+  EXPECT_EQ(asked.info.infoSize, sizeof(void*) == 4 ? 36 : 56);
   EXPECT_EQ(asked.info.selector, 0);
   EXPECT_EQ(asked.info.sourceSpace, 0);
   EXPECT_EQ(asked.info.resultSpace, 0);
