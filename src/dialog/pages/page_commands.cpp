@@ -191,7 +191,12 @@ void SettingsPage::CommitValue(const ControlRow& row) {
   if (slider == nullptr) return;
   const float value = std::clamp(ParseValue(TextOf(row.editId)), static_cast<float>(row.minimum),
                                  static_cast<float>(row.maximum));
-  if (value == slider->value) return;
+  if (value == slider->value) {
+    // Beyond the end that it is at, or with zeros in front.
+    const std::string shown = FieldText(row, row.editId);
+    if (TextOf(row.editId) != shown) SetDlgItemTextA(window_, row.editId, shown.c_str());
+    return;
+  }
   SetSliderValue(*slider, value, false);
   Set(row, TruncateToInt(static_cast<double>(value)));
 }
