@@ -22,10 +22,12 @@ def fault(page, text):
     faults.append(f"{page}.html: {text}")
 
 
-def jpeg_size(path):
-    """Width and height, from the frame header of the file."""
+def picture_size(path):
+    """Width and height, from the frame header of a JPEG, the first block of a PNG."""
     with open(path, "rb") as file:
         data = file.read()
+    if data.startswith(b"\x89PNG\r\n\x1a\n"):
+        return struct.unpack(">II", data[16:24])
     at = 2
     while data[at] == 0xFF:
         marker, length = data[at + 1], struct.unpack(">H", data[at + 2:at + 4])[0]
@@ -33,7 +35,7 @@ def jpeg_size(path):
             height, width = struct.unpack(">HH", data[at + 5:at + 9])
             return width, height
         at += 2 + length
-    raise ValueError(f"{path}: no JPEG")
+    raise ValueError(f"{path}: no picture")
 
 
 def local(page, address):
@@ -70,8 +72,8 @@ def check(page):
                 fault(page, f"{element.get('src')} is nothing to those who do not see it")
             if picture:
                 said = int(element.get("width")), int(element.get("height"))
-                if jpeg_size(picture) != said:
-                    fault(page, f"{picture} is {jpeg_size(picture)}, not {said}")
+                if picture_size(picture) != said:
+                    fault(page, f"{picture} is {picture_size(picture)}, not {said}")
                 if picture not in shown:
                     weight += os.path.getsize(picture)
                 shown.add(picture)
@@ -88,7 +90,8 @@ found = {name[:-5] for name in os.listdir(folder) if name.endswith(".html")}
 if found != PAGES:
     faults.append(f"pages: {sorted(found)}")
 shown = set().union(*(check(page) for page in sorted(found & PAGES)))
-made = {os.path.join(folder, "pictures", name) for name in os.listdir(f"{folder}/pictures")}
+made = {os.path.join(folder, place, name) for place in ("pictures", "windows")
+        for name in os.listdir(f"{folder}/{place}")}
 for picture in sorted(made - shown):
     faults.append(f"{picture} is on no page")
 with open(f"{folder}/help.css") as file:
