@@ -154,6 +154,9 @@ void ExpectField(const Listed& listed, const ControlRow& row, bool second) {
   SettingsSession session;
   EffectSettings byRow;
   EffectSettings byName;
+  // Whole, with what lies between the fields.
+  std::memset(static_cast<void*>(&byRow), 0, sizeof byRow);
+  std::memset(static_cast<void*>(&byName), 0, sizeof byName);
   for (const int value : {1, 0, 3}) {
     row.field.set(byRow, second, value);
     StoreSettingNumber(*field, value, byName, session);

@@ -180,7 +180,8 @@ TEST(PageEdits, ShownValuesAreTheSettings) {
           if (row.field.set == nullptr || row.kind == RowKind::kTurn) continue;
           row.field.set(s, second && tab != kBackgroundTab, AnyValue(row, random));
         }
-        const EffectSettings before = s;
+        EffectSettings before;
+        std::memcpy(static_cast<void*>(&before), &s, sizeof s);
         for (const ControlRow& row : RowsOf(tab)) {
           if (row.field.set == nullptr || row.kind == RowKind::kTurn ||
               row.setter == LayerSetter::kScale) {
