@@ -94,6 +94,13 @@ class Page:
         return next(one for one in self[number].children()
                     if one.class_name == "msctls_trackbar32")
 
+    def click(self, item, *place, **how):
+        """Once no tip of another control lies there: a press on one only takes it away."""
+        self.screen.move(*self.dialog[1002].place())
+        wait_for(lambda: not any(one.visible for one in self.dialog.program.windows()
+                                 if one.class_name == "tooltips_class32"), "a tip stays")
+        item.click(*place, **how)
+
     def focus(self, number):
         """As a walk with Tab would; a field's text is selected."""
         self.dialog.window.send(NEXT_CONTROL, self[number].number, 1)
@@ -138,7 +145,7 @@ def numbers_by_pointer(run):
     def change(page, tab):
         for row in NUMBERS[tab]:
             ahead = changed[row[5]] > DEFAULTS[row[5]]
-            page.track(row[0]).click(0.85 if ahead else 0.15, SEE)
+            page.click(page.track(row[0]), 0.85 if ahead else 0.15, SEE)
             page.wait_value(row, changed[row[5]])
     each_page(run, change, changed)
 
@@ -152,7 +159,7 @@ def numbers_by_up_down(run):
 
     def change(page, tab):
         for row in NUMBERS[tab]:
-            page[row[2]].click(0.5, 0.25 if step[row[5]] > 0 else 0.75, times=2)
+            page.click(page[row[2]], 0.5, 0.25 if step[row[5]] > 0 else 0.75, times=2)
             page.wait_value(row, changed[row[5]])
     each_page(run, change, changed)
 
@@ -203,18 +210,17 @@ def expected_boxes():
 def boxes_lists_and_turns_by_pointer(run):
     def change(page, tab):
         for number, _ in BOXES[tab]:
-            page[number].click(6, SEE)
+            page.click(page[number], 6, SEE)
             wait_for(lambda: page[number].look().checked, f"{number} stays off")
         for number, _, _ in CHOICES[tab]:
-            page[number].click()
+            page.click(page[number])
             page.screen.key("End", "Return")
         left, right, _ = TURNS[tab]
-        page[left].click()
-        page[right].click()
-        page[right].click()
-        page[right].click()
+        page.click(page[left])
+        for _ in range(3):
+            page.click(page[right])
         if tab == 1:
-            page[1032].click(6, SEE)
+            page.click(page[1032], 6, SEE)
             wait_for(lambda: page[1032].look().checked and not page[1031].look().checked,
                      "it stays inside")
     changed = expected_boxes()
