@@ -32,7 +32,8 @@ void MainDialog::ShowEffectTabs() {
 
 void MainDialog::ChooseInStrip(int command) {
   if (pages_) pages_->FinishSpins();
-  DoLayerWork(ChooseView(views_, *g_.gParams, command));
+  DoLayerWork(ChangeEffects(views_, *g_.gParams, command));
+  ChooseView(views_, command);
   ShowEffectTabs();
   UpdatePage(ShowsOneEffect(views_) ? PageUpdate::kShowSettings : PageUpdate::kEnable);
   SendMessageA(window_, WM_COMMAND, kSettingsChanged, 0);

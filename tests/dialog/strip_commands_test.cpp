@@ -48,7 +48,10 @@ TEST(StripCommands, EachButtonLeadsToItsView) {
     EffectSettings settings;
     EffectViews views = OnTab(c.tab);
     views.Current() = ViewMode::kOriginal;
-    EXPECT_EQ(ChooseView(views, settings, c.command), c.work) << c.command;
+    EXPECT_EQ(ChangeEffects(views, settings, c.command), c.work) << c.command;
+    // Links are carried on meanwhile, from what was in view.
+    EXPECT_EQ(views.Current(), ViewMode::kOriginal) << c.command;
+    ChooseView(views, c.command);
     EXPECT_EQ(views.Current(), c.view) << c.command;
     // What is drawn as selected is what has been pressed, unless that has gone.
     if (c.work == LayerWork::kNone) {
@@ -62,19 +65,22 @@ TEST(StripCommands, EachButtonLeadsToItsView) {
 TEST(StripCommands, SecondEffectsComeAndGo) {
   EffectSettings settings;
   EffectViews views = OnTab(kWashTab);
-  (void)ChooseView(views, settings, kAddWash);
+  (void)ChangeEffects(views, settings, kAddWash);
   EXPECT_TRUE(views.hasSecondWash && settings.SecondWashExists == 1);
   EXPECT_FALSE(views.hasSecondSurface || settings.SecondSurfaceExists != 0);
-  (void)ChooseView(views, settings, kDeleteWashTwo);
+  (void)ChangeEffects(views, settings, kDeleteWashTwo);
   EXPECT_FALSE(views.hasSecondWash || settings.SecondWashExists != 0);
   views.currentTab = kSurfaceTab;
-  (void)ChooseView(views, settings, kAddSurface);
+  (void)ChangeEffects(views, settings, kAddSurface);
   EXPECT_TRUE(views.hasSecondSurface && settings.SecondSurfaceExists == 1);
   EXPECT_FALSE(views.hasSecondWash);
-  (void)ChooseView(views, settings, kDeleteSurfaceTwo);
+  (void)ChangeEffects(views, settings, kDeleteSurfaceTwo);
   EXPECT_FALSE(views.hasSecondSurface || settings.SecondSurfaceExists != 0);
-  // The page of the washes has kept its view.
-  EXPECT_EQ(views.washView, ViewMode::kWashOne);
+  EXPECT_EQ(views.surfaceView, ViewMode::kComposite);
+  ChooseView(views, kDeleteSurfaceTwo);
+  // The page of the washes has its own.
+  EXPECT_EQ(views.washView, ViewMode::kComposite);
+  EXPECT_EQ(views.surfaceView, ViewMode::kSurfaceOne);
 }
 
 bool EndsIn(std::string_view name, char digit) {
@@ -98,7 +104,7 @@ void ExpectSwap(int command, int tab, std::string_view kind,
   for (std::size_t i = 0; i < sizeof before; ++i) bytes[i] = static_cast<unsigned char>(i % 251);
   EffectSettings after = before;
   EffectViews views = OnTab(tab);
-  (void)ChooseView(views, after, command);
+  (void)ChangeEffects(views, after, command);
   const auto part = [](const EffectSettings& s, const SettingField& field) {
     return std::string(reinterpret_cast<const char*>(&s) + field.offset, field.size);
   };

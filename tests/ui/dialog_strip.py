@@ -141,6 +141,26 @@ def a_second_wash_comes_and_goes(run):
 
 
 @scenario()
+def a_second_wash_is_linked_to_the_first(run):
+    """With the texture, which both share by then, it takes all that is linked of the first."""
+    linked = {"WashScale1": 80, "WashScale2": 80, "WashFlipVer1": 1, "WashFlipVer2": 1,
+              "BackgroundScale": 80, "BackgroundFlipVer": 1, "SecondWashExists": 1}
+    names = [f'expect setting WashFileName{i} "Rusted.twk"' for i in (1, 2)]
+    dialog = run.open(
+        before=['settings WashFileName1 "Rusted.twk" WashScale1 80 WashFlipVer1 1 '
+                'BackgroundScale 80 BackgroundFlipVer 1'],
+        after=names + [f"expect setting {name} {value}" for name, value in linked.items()])
+    dialog.tab(1)
+    dialog[2000].click()
+    wait_for(lambda: not dialog.window.look().enabled, "nothing is asked")
+    run.screen.key("alt+y")
+    wait_for(lambda: dialog.window.look().enabled, "the question stays")
+    choose(dialog, 503, 502)
+    wait_row(dialog, TWO[1])
+    dialog.ok()
+
+
+@scenario()
 def reset_takes_its_page(run):
     dialog = run.open(after=CANCELLED, before=["settings SecondSurfaceExists 1"])
     dialog.tab(2)

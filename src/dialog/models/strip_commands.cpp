@@ -86,9 +86,9 @@ void HaveSecondSurface(EffectViews& views, EffectSettings& settings, bool has) {
 
 }  // namespace
 
-LayerWork ChooseView(EffectViews& views, EffectSettings& settings, int command) {
-  const Choice choice = ChoiceOf(command);
-  switch (choice.work) {
+LayerWork ChangeEffects(EffectViews& views, EffectSettings& settings, int command) {
+  const LayerWork work = ChoiceOf(command).work;
+  switch (work) {
     case LayerWork::kNone:
       break;
     case LayerWork::kMakeSecondWash:
@@ -110,8 +110,11 @@ LayerWork ChooseView(EffectViews& views, EffectSettings& settings, int command) 
       HaveSecondSurface(views, settings, false);
       break;
   }
-  views.Current() = choice.view;
-  return choice.work;
+  return work;
+}
+
+void ChooseView(EffectViews& views, int command) {
+  views.Current() = ChoiceOf(command).view;
 }
 
 bool ShowsOneEffect(const EffectViews& views) {

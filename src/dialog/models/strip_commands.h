@@ -18,11 +18,15 @@ enum class LayerWork {
   kRemakeSurfaces,
 };
 
-// A view or a cross (kViewComposite..kDeleteWashOne): the current page gets the view
-// that the button leads to, and a second effect comes or goes. Where the first of two
-// goes, the second takes its place, but for the angle, the offset and, of a wash, the
-// distance from the edge and the seed, which stay with the place.
-LayerWork ChooseView(EffectViews& views, EffectSettings& settings, int command);
+// A view or a cross (kViewComposite..kDeleteWashOne): a second effect comes or goes.
+// Where the first of two goes, the second takes its place, but for the angle, the
+// offset and, of a wash, the distance from the edge and the seed, which stay with the
+// place. The view stays until the layers have followed: what is linked takes the values
+// of the effect that was in view, not those of a new one.
+LayerWork ChangeEffects(EffectViews& views, EffectSettings& settings, int command);
+
+// The current page gets the view that the button leads to.
+void ChooseView(EffectViews& views, int command);
 
 // All the page shows is the chosen effect; otherwise only what can be used changes.
 [[nodiscard]] bool ShowsOneEffect(const EffectViews& views);
