@@ -1,3 +1,5 @@
+#include <string>
+
 #include "host/color_model.h"
 #include "host/host_procs.h"
 #include "host/test_host.h"
@@ -34,6 +36,30 @@ SPErr TARNWICK_HOST_CALL Convert8(std::int16_t fromSpace, std::int16_t toSpace,
   return host::kSPNoError;
 }
 
+host::OSErr ChooseColor(host::ColorServicesInfo& info) {
+  const host::Str255* const prompt = info.selectorParameter.pickerPrompt;
+  if (prompt == nullptr || info.sourceSpace != host::plugIncolorServicesRGBSpace ||
+      info.resultSpace != host::plugIncolorServicesRGBSpace) {
+    NoteFault("the colour picker was asked wrongly");
+    return host::paramErr;
+  }
+  TestHost& host = TheHost();
+  std::string asked(reinterpret_cast<const char*>(*prompt + 1), (*prompt)[0]);
+  for (int i = 0; i < 3; ++i) asked += ' ' + std::to_string(info.colorComponents[i]);
+  host.log.pickers.push_back(asked);
+  // Nobody sits before this host, unless the scenario has told what he does.
+  PickerAnswer answer;
+  if (!host.pickerAnswers.empty()) {
+    answer = host.pickerAnswers.front();
+    host.pickerAnswers.pop_front();
+  }
+  if (answer.error != host::noErr) return answer.error;
+  for (std::size_t i = 0; i < 3; ++i) {
+    info.colorComponents[i] = static_cast<std::int16_t>(answer.color[i]);
+  }
+  return host::noErr;
+}
+
 }  // namespace
 
 const void* ColorSpaceTable() {
@@ -52,8 +78,7 @@ host::OSErr TARNWICK_HOST_CALL ServeColors(host::ColorServicesInfo* info) {
     NoteFault("the colour services were asked wrongly");
     return host::paramErr;
   }
-  // Nobody sits before this host to choose a colour.
-  if (info->selector == host::plugIncolorServicesChooseColor) return host::userCanceledErr;
+  if (info->selector == host::plugIncolorServicesChooseColor) return ChooseColor(*info);
   if (info->selector != host::plugIncolorServicesConvertColor) return host::paramErr;
   Color color{};
   for (std::size_t i = 0; i < 4; ++i) color[i] = info->colorComponents[i];

@@ -42,6 +42,18 @@ void ExpectBoxes(ScenarioRun& run, Words& words) {
   boxes.clear();
 }
 
+// expect picker PROMPT RED GREEN BLUE: the first one that has not been expected yet; the
+// colour is the one it started with. expect pickers 0: there were no more.
+void ExpectPicker(ScenarioRun& run, Words& words) {
+  std::string wanted = words.Next("prompt");
+  for (int i = 0; i < 3; ++i) wanted += ' ' + std::to_string(words.NextInt("colour"));
+  std::vector<std::string>& pickers = run.Host().log.pickers;
+  if (pickers.empty()) throw ScenarioError("there was no picker");
+  const std::string first = pickers.front();
+  pickers.erase(pickers.begin());
+  Compare("the picker", first, wanted);
+}
+
 // expect setting FIELD VALUE: in the module's block.
 void ExpectSetting(ScenarioRun& run, Words& words) {
   TestHost& host = run.Host();
@@ -149,6 +161,7 @@ const CommandTable& Expectations() {
   static const CommandTable table = {
       {"error", ExpectError},
       {"box", ExpectBox},
+      {"picker", ExpectPicker},
       {"boxes", ExpectBoxes},
       {"setting", ExpectSetting},
       {"marker", ExpectSetting},
@@ -166,6 +179,8 @@ const CommandTable& Expectations() {
        Number("bufferSpace", [](ScenarioRun& run) { return run.Host().Record().bufferSpace; })},
       {"record-info", Number("recordInfo", [](ScenarioRun& run) { return run.Host().recordInfo; })},
       {"advances", Number("advances", [](ScenarioRun& run) { return run.Host().log.advances; })},
+      {"pickers",
+       Number("the pickers left", [](ScenarioRun& run) { return run.Host().log.pickers.size(); })},
       {"dialogs", Number("dialogs", [](ScenarioRun& run) { return run.Host().log.dialogsShown; })},
       {"abouts", Number("abouts", [](ScenarioRun& run) { return run.Host().log.aboutsShown; })},
       {"handles", Number("handles", [](ScenarioRun& run) { return run.Host().handles.Live(); })},

@@ -218,6 +218,21 @@ void View(ScenarioRun& run, Words& words) {
   if (run.view.toOutput) words.Demand("output");
 }
 
+// picker chooses RED GREEN BLUE | picker cancels | picker fails: what comes of the
+// colour pickers that the module opens, one after the other; later ones are cancelled.
+void Picker(ScenarioRun& run, Words& words) {
+  PickerAnswer answer;
+  if (words.Accept("chooses")) {
+    answer.error = host::noErr;
+    for (std::size_t i = 0; i < 3; ++i) answer.color[i] = words.NextInt("colour");
+  } else if (words.Accept("fails")) {
+    answer.error = host::paramErr;
+  } else {
+    words.Demand("cancels");
+  }
+  run.Host().pickerAnswers.push_back(answer);
+}
+
 void Ignore(ScenarioRun& run, Words& words) {
   words.Demand("boxes");
   run.ignoresBoxes = true;
@@ -231,6 +246,7 @@ const CommandTable& HostCommands() {
       {"empty", Empty},     {"fail", Fail},       {"module", Module}, {"file", File},
       {"remove", Remove},   {"texture", Texture}, {"forget", Forget}, {"reload", Reload},
       {"restart", Restart}, {"dialog", Dialog},   {"ignore", Ignore}, {"view", View},
+      {"picker", Picker},
   };
   return table;
 }

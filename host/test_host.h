@@ -1,4 +1,5 @@
 #pragma once
+#include <deque>
 #include <map>
 #include <memory>
 #include <set>
@@ -6,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "host/color_model.h"
 #include "host/descriptor.h"
 #include "host/document.h"
 #include "host/handle_store.h"
@@ -17,6 +19,12 @@
 
 namespace tarnwick::testhost {
 
+// Of a user before the host's colour picker: red, green and blue, if it has no error.
+struct PickerAnswer {
+  host::OSErr error = host::userCanceledErr;
+  Color color{};
+};
+
 // All that the host is and keeps. The interface's procedures carry no context, so
 // there is one host at a time: TheHost().
 struct TestHost {
@@ -26,6 +34,7 @@ struct TestHost {
   HandleStore handles;
   Document document;
   PixelService pixels;
+  std::deque<PickerAnswer> pickerAnswers;  // of the pickers that come, in their order
   std::unique_ptr<ModuleEntry> module;
 
   // What is kept for the module from run to run.
