@@ -63,12 +63,21 @@ class CellPreview {
                                                const CellTones& tones);
 
  private:
+  void MakeOverlay();
+  // The document is there, and `picture` as large as what has been taken of it.
+  [[nodiscard]] bool HasOverlay(const ThumbnailPicture& picture);
+  // What shows through, three bytes a pixel; null if there is nothing.
+  [[nodiscard]] const std::uint8_t* Under() const;
+  void PreviewWash(const EffectViews& views, ThumbnailPicture& picture);
+  void PreviewSurface(const EffectSettings& settings, const EffectViews& views,
+                      ThumbnailPicture& picture);
+
   FilterGlobals& g_;
   const LivePreview& preview_;
   std::string textureFolder_;
   ThumbnailSize size_ = kDrawerThumbnail;
   float reliefFactor_ = 0;
-  // Of the document: red, green, blue, alpha times selection, rows from the bottom up.
+  // Of the document: red, green, blue, alpha times selection.
   std::vector<std::uint8_t> overlay_;
   std::optional<ThumbnailPicture> backdrop_;
   std::optional<ThumbnailPicture> stage_;

@@ -81,6 +81,7 @@ void LivePreview::Open(PaneSize pane) {
     record.inLoPlane = record.outLoPlane = 0;
     FetchDocumentAtZoom(g_);
     pixels_.KeepSelection(g_);
+    unfiltered_.Keep(g_);
     const bool isMasked = record.haveMask != 0 || record.planes > 3;
     if (isMasked) g_.render.selectionPlane = g_.selectionPlane.Data();
     ApplyZoom(zoom_, pane, document_);
@@ -196,6 +197,11 @@ PanePicture LivePreview::BuildPaneImage(PaneSize pane) const {
   picture.imageX = std::max((pane.width - width) / 2, 0);
   picture.imageY = std::max((pane.height - height) / 2, 0);
   return picture;
+}
+
+DocumentSamples LivePreview::SampleDocument(const std::vector<std::ptrdiff_t>& columns,
+                                            const std::vector<std::ptrdiff_t>& rows) const {
+  return {unfiltered_.Sample(g_, columns, rows), pixels_.SampleSelection(columns, rows)};
 }
 
 void LivePreview::RemakeLayers(KeptLayers kept) {

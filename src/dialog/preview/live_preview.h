@@ -8,6 +8,7 @@
 #include "dialog/models/kept_layers.h"
 #include "dialog/models/pane_zoom.h"
 #include "dialog/preview/preview_pixels.h"
+#include "dialog/preview/unfiltered_document.h"
 #include "engine/view_mode.h"
 #include "filter/box_alerts.h"
 #include "filter/filter_globals.h"
@@ -25,6 +26,13 @@ struct PanePicture {
   // Bottom row first, blue, green, red; the width is a multiple of 4, so no row is
   // padded. Empty: there is nothing to show, and the pane paints its cross.
   std::vector<std::uint8_t> bitmap;
+};
+
+// Points of the document, a row of them after the other.
+struct DocumentSamples {
+  // Red, green, blue and the document's own alpha. Empty: there is no document.
+  std::vector<std::uint8_t> pixels;
+  std::vector<std::uint8_t> selection;  // a byte each; empty: everything is selected
 };
 
 // The preview without its window: zoom and pan, what it asks of the host, the layers
@@ -82,6 +90,11 @@ class LivePreview {
   // The last Render as the pane shows it.
   [[nodiscard]] PanePicture BuildPaneImage(PaneSize pane) const;
 
+  // The document as it was opened, without any effect, at each of `columns` in each of
+  // `rows` of its full size; places beyond it are its last ones.
+  [[nodiscard]] DocumentSamples SampleDocument(const std::vector<std::ptrdiff_t>& columns,
+                                               const std::vector<std::ptrdiff_t>& rows) const;
+
   [[nodiscard]] const PaneZoom& Zoom() const { return zoom_; }
   [[nodiscard]] PaneSize Document() const { return document_; }
 
@@ -113,6 +126,7 @@ class LivePreview {
   PaneSize pane_;  // as it was last told
   PaneZoom zoom_;
   PreviewPixels pixels_;
+  UnfilteredDocument unfiltered_;
 };
 
 }  // namespace tarnwick

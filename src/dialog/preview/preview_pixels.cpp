@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/truncate.h"
+#include "dialog/preview/unfiltered_document.h"
 #include "engine/picture_io.h"
 #include "filter/document_pixels.h"
 #include "filter/host_colors.h"
@@ -42,12 +43,6 @@ void AsPicture(RenderState& state, const Work& work) {
 
 bool HasPixels(const ImagePtr& image) {
   return image != nullptr && image->PeekInterior() != nullptr;
-}
-
-// The copy's fourth plane is no black that could be trusted: transparency is kept
-// there. A document of these inks is seen as the host delivers it.
-bool ShowsCopy(const FilterGlobals& g) {
-  return HasPixels(g.documentCopy) && !g.render.isCmyk;
 }
 
 }  // namespace
@@ -155,7 +150,7 @@ void PreviewPixels::FetchSource(FilterGlobals& g) {
   // Black and transparent where there is nothing to take.
   const std::size_t bytes = state.PixelCount() * 4;
   if (!state.sourcePixels.Allocate(bytes) || !state.outputPixels.Allocate(bytes)) return;
-  if (ShowsCopy(g)) {
+  if (ShowsDocumentCopy(g)) {
     CopyDocumentToPixels(g, false);
     std::memcpy(state.outputPixels.Data(), state.sourcePixels.Data(), bytes);
   } else if (*g.gResult == host::noErr && job.in != nullptr && IsRenderable(job) &&
@@ -189,7 +184,7 @@ void PreviewPixels::WriteOriginal(FilterGlobals& g) {
   job.planes = planes_;
   job.out = result_.data();
   job.outRowBytes = is16Bit_ ? rowBytes_ / 2 : rowBytes_;
-  if (ShowsCopy(g)) {
+  if (ShowsDocumentCopy(g)) {
     // sourcePixels are just that: the copy's samples in this window.
     if (g.render.sourcePixels.Size() != g.render.PixelCount() * 4) return;
     const int planes = std::min(planes_, 4);
@@ -207,6 +202,21 @@ void PreviewPixels::WriteOriginal(FilterGlobals& g) {
                   static_cast<std::size_t>(size_.width) * static_cast<std::size_t>(planes_));
     }
   }
+}
+
+std::vector<std::uint8_t> PreviewPixels::SampleSelection(
+    const std::vector<std::ptrdiff_t>& columns, const std::vector<std::ptrdiff_t>& rows) const {
+  std::vector<std::uint8_t> selection;
+  if (!wholeSelection_) return selection;
+  selection.reserve(columns.size() * rows.size());
+  for (const std::ptrdiff_t row : rows) {
+    const auto y = std::clamp<std::ptrdiff_t>(row, 0, wholeSize_.height - 1);
+    for (const std::ptrdiff_t column : columns) {
+      const auto x = std::clamp<std::ptrdiff_t>(column, 0, wholeSize_.width - 1);
+      selection.push_back(wholeSelection_.Data()[y * wholeSize_.width + x]);
+    }
+  }
+  return selection;
 }
 
 PaneSource PreviewPixels::Result() const {

@@ -1,4 +1,5 @@
 #pragma once
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
@@ -33,6 +34,11 @@ class PreviewPixels {
   // The render's output, or the picture as it was, into the result.
   void WriteRender(const FilterGlobals& g);
   void WriteOriginal(FilterGlobals& g);
+
+  // The kept selection at each of `columns` in each of `rows` of the document at full
+  // size; places beyond it are its last ones. Empty when everything is selected.
+  [[nodiscard]] std::vector<std::uint8_t> SampleSelection(
+      const std::vector<std::ptrdiff_t>& columns, const std::vector<std::ptrdiff_t>& rows) const;
 
   // Without samples if there is none.
   [[nodiscard]] PaneSource Result() const;
