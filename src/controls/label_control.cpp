@@ -64,6 +64,11 @@ void Paint(Label& record) {
   SetBkMode(buffer.Dc(), TRANSPARENT);
   RECT client = buffer.Client();
   const UINT align = record.leftAligned != 0 ? DT_LEFT : DT_CENTER;
+  TEXTMETRICA metric{};
+  GetTextMetricsA(buffer.Dc(), &metric);
+  // A line too high for the label loses of what is blank above its letters first.
+  const LONG excess = metric.tmHeight - client.bottom;
+  if (excess > 0) client.top = -(excess + 1) / 2;
   DrawTextA(buffer.Dc(), record.text.c_str(), -1, &client,
             align | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX);
 }

@@ -9,18 +9,40 @@
 #include "resources/art_ids.h"
 
 namespace tarnwick {
+namespace {
+
+// Bold letters reach beyond their places.
+constexpr int kOverhang = 1;
+
+}  // namespace
+
 void EffectTabs::Create(HWND parent, HINSTANCE instance, int dpi) {
   parent_ = parent;
+  Measure(parent);
   MakeTexts(parent, dpi);
   MakeCrosses(parent, instance);
   MakeSeparators(parent, instance);
 }
 
+void EffectTabs::Measure(HWND parent) {
+  const HDC dc = GetDC(parent);
+  const HGDIOBJ before = SelectObject(dc, SharedControls().fonts.FontCaptionHover);
+  for (std::size_t i = 0; i < kStripTexts.size(); ++i) {
+    RECT place{};
+    DrawTextA(dc, kStripTexts[i].text, -1, &place, DT_CALCRECT | DT_SINGLELINE | DT_NOPREFIX);
+    widths_[i] = place.right + kOverhang;
+  }
+  if (before != nullptr) SelectObject(dc, before);
+  ReleaseDC(parent, dc);
+}
+
 void EffectTabs::MakeTexts(HWND parent, int dpi) {
-  for (const StripText& text : kStripTexts) {
-    // It has its width from the start, since its tip covers what is there by then.
-    TContaner* const label = CreateLabelControl(0, 0, StripTextWidth(text, dpi), kStripTextHeight,
-                                                parent, text.id, text.text, true, false);
+  for (std::size_t i = 0; i < kStripTexts.size(); ++i) {
+    const StripText& text = kStripTexts[i];
+    // It has its size from the start, since its tip covers what is there by then.
+    TContaner* const label =
+        CreateLabelControl(0, 0, std::max(StripTextWidth(text, dpi), widths_[i]),
+                           StripTextHeight(dpi), parent, text.id, text.text, true, false);
     if (label == nullptr) continue;
     label->style = kTrackingLabel;
     ShowWindow(label->window, SW_HIDE);
@@ -43,9 +65,9 @@ void EffectTabs::MakeCrosses(HWND parent, HINSTANCE instance) {
 
 void EffectTabs::MakeSeparators(HWND parent, HINSTANCE instance) {
   for (const int id : kStripSeparators) {
-    const HWND window = CreateWindowExA(
-        0, "Static", "|", WS_CHILD | SS_CENTER | SS_NOPREFIX, 0, 0, 8, kStripTextHeight, parent,
-        reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), instance, nullptr);
+    const HWND window =
+        CreateWindowExA(0, "Static", "|", WS_CHILD | SS_CENTER | SS_NOPREFIX, 0, 0, 8, 16, parent,
+                        reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), instance, nullptr);
     if (window == nullptr) continue;
     SendMessageA(window, WM_SETFONT, reinterpret_cast<WPARAM>(SharedControls().fonts.FontLinkBold),
                  FALSE);

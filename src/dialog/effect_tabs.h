@@ -1,6 +1,7 @@
 #pragma once
 #include <windows.h>
 
+#include <array>
 #include <vector>
 
 #include "controls/control_record.h"
@@ -26,6 +27,10 @@ class EffectTabs {
 
   void Enable(bool isEnabled);
 
+  // How wide the texts are at most; see StripFrame.
+  using TextWidths = std::array<int, kStripTexts.size()>;
+  [[nodiscard]] const TextWidths& Widths() const { return widths_; }
+
  private:
   struct Item {
     int id;
@@ -33,12 +38,14 @@ class EffectTabs {
     TContaner* label;  // its window's; null for crosses and separators
   };
 
+  void Measure(HWND parent);
   void MakeTexts(HWND parent, int dpi);
   void MakeCrosses(HWND parent, HINSTANCE instance);
   void MakeSeparators(HWND parent, HINSTANCE instance);
 
   HWND parent_ = nullptr;
   std::vector<Item> items_;
+  TextWidths widths_{};
 };
 
 }  // namespace tarnwick

@@ -18,6 +18,9 @@ void MainDialog::MakeStrip() {
   views_.hasSecondWash = g_.gParams->SecondWashExists != 0;
   views_.hasSecondSurface = g_.gParams->SecondSurfaceExists != 0;
   effectTabs_.Create(window_, instance_, screenDpi_);
+  stripFrame_.textWidths = effectTabs_.Widths();
+  stripFrame_.previewLeft = frame_.previewLeft;
+  stripFrame_.previewTop = frame_.previewTop;
 }
 
 // The strip and the option of the current page.

@@ -46,7 +46,12 @@ constexpr RowStep kTwoSurfacesRow[] = {
 constexpr RowStep kBackgroundRow[] = {Separator(0, 8), Text(kViewBackground), Separator(1, 7),
                                       Text(kViewOriginal)};
 
-constexpr int kCrossDrop = 2;  // below the row's top
+constexpr int kCrossDrop = 2;  // below the top of a text 16 high
+constexpr int kPlainHeight = 16;
+
+// What is left free at the pane's edges, whose corners are round, and before Reset.
+constexpr int kEdgeMargin = 8;
+constexpr int kResetGap = 8;
 
 // From the pane's right edge, times the screen's factor and its square, which is how
 // the long ones find room.
@@ -73,10 +78,12 @@ std::span<const RowStep> RowOf(const EffectViews& views) {
   }
 }
 
-int WidthOf(int id, int dpi) {
-  const auto* const found = std::find_if(kStripTexts.begin(), kStripTexts.end(),
-                                         [id](const StripText& text) { return text.id == id; });
-  return found != kStripTexts.end() ? StripTextWidth(*found, dpi) : 0;
+int WidthOf(int id, const StripFrame& frame) {
+  for (std::size_t i = 0; i < kStripTexts.size(); ++i) {
+    if (kStripTexts[i].id != id) continue;
+    return std::max(StripTextWidth(kStripTexts[i], frame.dpi), frame.textWidths[i]);
+  }
+  return 0;
 }
 
 StripPlace PlaceReset(const StripFrame& frame, int tab) {
@@ -84,13 +91,92 @@ StripPlace PlaceReset(const StripFrame& frame, int tab) {
   const ResetPlace& reset = kResets[tab];
   const float x = static_cast<float>(frame.previewRight + reset.pixels) - kResetReach * factor -
                   static_cast<float>(reset.squared) * factor * factor;
-  return {reset.id, {static_cast<int>(x), frame.y, WidthOf(reset.id, frame.dpi), kStripTextHeight}};
+  const int width = WidthOf(reset.id, frame);
+  return {reset.id,
+          {std::min(static_cast<int>(x), frame.previewRight - kEdgeMargin - width), frame.y, width,
+           StripTextHeight(frame.dpi)}};
+}
+
+std::vector<StripPlace> PlaceViews(const StripFrame& frame, const EffectViews& views) {
+  std::vector<StripPlace> row;
+  const int height = StripTextHeight(frame.dpi);
+  int x = frame.x;
+  const auto put = [&](int id, int width) {
+    row.push_back({id, {x, frame.y, width, height}});
+    x += width;
+  };
+  put(kViewComposite, WidthOf(kViewComposite, frame));
+  for (const RowStep& step : RowOf(views)) {
+    switch (step.kind) {
+      case Kind::kText:
+        put(step.id, WidthOf(step.id, frame));
+        break;
+      case Kind::kSeparator:
+        x += step.gap;
+        put(step.id, step.width);
+        break;
+      case Kind::kCross:
+        row.push_back({step.id,
+                       {x + step.gap, frame.y + kCrossDrop + (height - kPlainHeight) / 2,
+                        kCrossSize, kCrossSize}});
+        break;
+    }
+  }
+  return row;
+}
+
+int RightOf(const StripPlace& item) {
+  return item.place.x + item.place.width;
+}
+
+void Shift(std::vector<StripPlace>& row, int dx) {
+  for (StripPlace& item : row) item.place.x += dx;
+}
+
+// The row and Reset on two lines that fill the strip between them. `row` ends in a
+// separator and Original.
+void BreakRow(std::vector<StripPlace>& row, StripPlace& reset, const StripFrame& frame) {
+  constexpr int kUpperHeight = kStripHeight / 2 + 1;
+  constexpr int kLowerHeight = kStripHeight / 2;
+  const auto lie = [](StripPlace& item, int top, int height) {
+    if (item.place.height == kCrossSize) {
+      item.place.y = top + kCrossDrop;
+    } else {
+      item.place.y = top;
+      item.place.height = std::min(item.place.height, height);
+    }
+  };
+  const int begin = frame.previewLeft + kEdgeMargin;
+  const int end = frame.previewRight - kEdgeMargin;
+  const int lowerTop = frame.previewTop + kUpperHeight;
+  for (StripPlace& item : row) lie(item, frame.previewTop, kUpperHeight);
+  lie(reset, lowerTop, kLowerHeight);
+
+  const auto pullLeft = [&](int right) {
+    const int first = row.front().place.x;
+    Shift(row, -std::clamp(right - end, 0, std::max(first - begin, 0)));
+  };
+  StripPlace original = row.back();
+  const auto separator = row.end() - 2;
+  if (RightOf(original) - row.front().place.x <= end - begin) {
+    pullLeft(RightOf(original));
+    return;
+  }
+  row.erase(separator, row.end());
+  pullLeft(RightOf(row.back()));
+  original.place.x = row.front().place.x;
+  lie(original, lowerTop, kLowerHeight);
+  row.push_back(original);
 }
 
 }  // namespace
 
 int StripTextWidth(const StripText& text, int dpi) {
   return static_cast<int>(static_cast<float>(text.width) * DpiFactorOf(dpi));
+}
+
+int StripTextHeight(int dpi) {
+  return ScaledHeight(kPlainHeight, dpi);
 }
 
 StripOrigin StripOriginFor(int frameLeft, int frameTop, int previewTop, int dpi) {
@@ -107,33 +193,23 @@ StripOrigin StripOriginFor(int frameLeft, int frameTop, int previewTop, int dpi)
     origin.y += 20;
   }
   // Fonts decide how high a dialog's unit is; white on black has to stay on black.
-  origin.y = std::clamp(origin.y, previewTop + 1, previewTop + kStripHeight - kStripTextHeight - 1);
+  origin.y =
+      std::clamp(origin.y, previewTop + 1, previewTop + kStripHeight - StripTextHeight(dpi) - 1);
   return origin;
 }
 
 std::vector<StripPlace> LayoutStrip(const StripFrame& frame, const EffectViews& views) {
-  std::vector<StripPlace> row;
-  int x = frame.x;
-  const auto put = [&](int id, int width) {
-    row.push_back({id, {x, frame.y, width, kStripTextHeight}});
-    x += width;
-  };
-  put(kViewComposite, WidthOf(kViewComposite, frame.dpi));
-  for (const RowStep& step : RowOf(views)) {
-    switch (step.kind) {
-      case Kind::kText:
-        put(step.id, WidthOf(step.id, frame.dpi));
-        break;
-      case Kind::kSeparator:
-        x += step.gap;
-        put(step.id, step.width);
-        break;
-      case Kind::kCross:
-        row.push_back({step.id, {x + step.gap, frame.y + kCrossDrop, kCrossSize, kCrossSize}});
-        break;
+  std::vector<StripPlace> row = PlaceViews(frame, views);
+  StripPlace reset = PlaceReset(frame, views.currentTab);
+  const int excess = RightOf(row.back()) + kResetGap - reset.place.x;
+  if (excess > 0) {
+    if (excess <= frame.x - frame.previewLeft - kEdgeMargin) {
+      Shift(row, -excess);
+    } else {
+      BreakRow(row, reset, frame);
     }
   }
-  row.push_back(PlaceReset(frame, views.currentTab));
+  row.push_back(reset);
   return row;
 }
 

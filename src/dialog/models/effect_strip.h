@@ -9,7 +9,7 @@ namespace tarnwick {
 
 // The strip above the pane: what is in it and where it stands. On its left are the
 // views of the page and what adds or deletes a second effect, on its right the
-// page's Reset. Widths of texts grow with the screen, all else is in plain pixels.
+// page's Reset. Texts grow with the screen, all else is in plain pixels.
 
 // Ids, which are commands of the dialog too.
 inline constexpr int kViewComposite = 500;
@@ -69,16 +69,21 @@ inline constexpr std::array<StripCross, 4> kStripCrosses{{
 // No page needs the last one.
 inline constexpr std::array<int, 4> kStripSeparators{604, 608, 612, 616};
 
-inline constexpr int kStripTextHeight = 16;
 inline constexpr int kCrossSize = 13;
 
 [[nodiscard]] int StripTextWidth(const StripText& text, int dpi);
+// What their font needs on the screen: no letter is cut below.
+[[nodiscard]] int StripTextHeight(int dpi);
 
 // Where the row begins and where it ends. Client pixels of the dialog.
 struct StripFrame {
-  int x = 0, y = 0;
+  int x = 0, y = 0;  // see StripOriginFor
   int previewRight = 0;
   int dpi = 96;
+  int previewLeft = 0, previewTop = 0;  // of the black strip
+  // Of the texts as they are drawn when selected, in the order of kStripTexts. One
+  // that has not the room of its button gets what it needs.
+  std::array<int, kStripTexts.size()> textWidths{};
 };
 
 struct StripOrigin {
@@ -96,6 +101,10 @@ struct StripPlace {
 };
 
 // What shows on the current page, from the left; all else of the strip is hidden.
+//
+// In a narrow window the row begins further left, so that it ends before Reset. Where
+// that does not do there are two lines: below, Reset, and the end of a row that the
+// pane is too narrow for, without the separator before it.
 [[nodiscard]] std::vector<StripPlace> LayoutStrip(const StripFrame& frame,
                                                   const EffectViews& views);
 
