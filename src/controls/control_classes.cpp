@@ -8,6 +8,7 @@
 #include "controls/control_window.h"
 #include "controls/image_control.h"
 #include "controls/label_control.h"
+#include "controls/link_control.h"
 #include "controls/mac_slider.h"
 #include "controls/object_controls.h"
 #include "controls/rotor_control.h"
@@ -57,7 +58,7 @@ const ClassRow kClasses[] = {
     {kSwatchClass, ColorSwatchProc},
     {"Spin Edit CPP", kIdleProc},
     {"Color Equalizer CPP", kIdleProc},
-    {kLinkClass, LabelProc},
+    {kLinkClass, LinkProc},
     {kDrawerClass, DrawerProc, CS_DBLCLKS, Background::kBlack},
 };
 

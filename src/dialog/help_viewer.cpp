@@ -41,9 +41,13 @@ HelpViewer::HelpViewer(HWND owner, std::string helpFolder, PageOpener opener)
 
 void HelpViewer::OpenHelp(int code) {
   code_ = code;
+  OpenFile(helpFolder_ + HelpPageOf(code));
+}
+
+void HelpViewer::OpenFile(const std::string& path) {
   if (running_) return;
   Stop();  // the one before has nothing left to do; its handle goes
-  page_ = helpFolder_ + HelpPageOf(code);
+  page_ = path;
   running_ = true;
   thread_ = CreateThread(nullptr, 0, Launch, this, 0, nullptr);
   if (thread_ == nullptr) running_ = false;

@@ -33,6 +33,9 @@ class HelpViewer {
   // kept, and nothing comes of it: F1 pressed twice opens one page.
   void OpenHelp(int code);
 
+  // The same for any file.
+  void OpenFile(const std::string& path);
+
   // Opens the page of example looks, in the calling thread.
   void OpenExamples();
 

@@ -138,6 +138,8 @@ INT_PTR MainDialog::Dispatch(UINT message, WPARAM wParam, LPARAM lParam) {
       return TRUE;
     case WM_SYSCOMMAND:
       return SystemCommand(wParam);
+    case WM_TIMER:
+      return Timer(wParam) ? TRUE : FALSE;
     case WM_HOTKEY:
       HotKey(wParam);
       return TRUE;

@@ -10,9 +10,11 @@
 #include "dialog/effect_tabs.h"
 #include "dialog/help_viewer.h"
 #include "dialog/models/dialog_layout.h"
+#include "dialog/models/drawer_lists.h"
 #include "dialog/models/effect_strip.h"
 #include "dialog/models/effect_views.h"
 #include "dialog/models/strip_commands.h"
+#include "dialog/news_check.h"
 #include "dialog/pages/settings_pages.h"
 #include "dialog/presets/preset_library.h"
 #include "dialog/preview/live_preview.h"
@@ -113,6 +115,16 @@ class MainDialog {
   void UpdatePage(PageUpdate update);
   void PropagateLinksOf(LayerKind kind);
 
+  // main_dialog_auto.cpp
+  void ThrowLook();
+
+  // main_dialog_news.cpp
+  void LookForNews();
+  void ShowNews();
+  void AskForNews();
+  void LightUpNews();
+  [[nodiscard]] bool Timer(UINT_PTR id);
+
   [[nodiscard]] HWND Item(int id) const { return GetDlgItem(window_, id); }
   [[nodiscard]] PaneSize PaneNow() const;
   void SetZoomButtons(ZoomButtons buttons);
@@ -143,7 +155,10 @@ class MainDialog {
   std::unique_ptr<PresetLibrary> presets_;
   std::unique_ptr<SettingsPages> pages_;
   AutoDice dice_;
+  DrawerLists drawerLists_;
+  bool hasPlayed_ = false;  // the sound of Auto, which may still play
   std::unique_ptr<HelpViewer> help_;
+  std::unique_ptr<NewsCheck> news_;  // while it runs
   TPreviewContaner* pane_ = nullptr;  // its window's
   BitmapSet bitmaps_;
   ShadowStrips strips_;

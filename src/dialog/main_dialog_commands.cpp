@@ -74,8 +74,11 @@ INT_PTR MainDialog::Command(WPARAM wParam, LPARAM lParam) {
       if (help_) help_->OpenExamples();
       ClearHover(Item(kViewAll));
       break;
+    case kAuto:
+      ThrowLook();
+      break;
     case kAbout:
-      ShowAboutDialog(instance_, window_);
+      ShowAboutDialog(instance_, window_, g_.folders, g_.ui.useSound);
       break;
     default:
       return FALSE;

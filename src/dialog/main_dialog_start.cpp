@@ -16,6 +16,7 @@
 #include "dialog/hot_keys.h"
 #include "dialog/main_dialog.h"
 #include "dialog/models/new_layer_options.h"
+#include "dialog/sound.h"
 #include "filter/document_layers.h"
 #include "resources/art_ids.h"
 
@@ -106,6 +107,7 @@ void MainDialog::Start() {
   bar_.window = Item(kProgressBar);
   SendMessageA(bar_.window, PBM_SETRANGE, 0, MAKELPARAM(0, 100));
   help_ = std::make_unique<HelpViewer>(window_, g_.folders.helpFolder);
+  drawerLists_ = UnfilteredDrawers(g_.folders.dataFolder, g_.folders.colorFolder);
   preview_ = std::make_unique<LivePreview>(g_, &bar_);
   pane_ = GetControlRecord<TPreviewContaner>(Item(kPane), kPreviewClass);
   if (pane_ != nullptr) {
@@ -131,6 +133,7 @@ void MainDialog::Start() {
   OpenPreview();
   cancelSnapshot_ = lastUsedSnapshot_ = settings;
   isStarted_ = true;
+  LookForNews();
 }
 
 void MainDialog::MakeOptions() {
@@ -272,6 +275,8 @@ void MainDialog::Finish() {
   g_.DialogActive = 0;
   UnregisterHotKeys(window_);
   if (help_) help_->Stop();
+  if (hasPlayed_) StopSound();
+  news_.reset();
   // One that never came up, or is only an icon now, has no place worth keeping.
   if (isStarted_ && IsIconic(window_) == FALSE) {
     RECT place{};

@@ -51,6 +51,9 @@ std::vector<std::string> LinesOf(const std::string& bytes) {
   return lines;
 }
 
+// Of an address; a text, so that it has no place among the numbers.
+constexpr std::uint32_t kNewsKey = PresetKey("sweN");
+
 // Where the value of a key lives; null for a key that is none of ours.
 std::int32_t* PlaceOf(std::uint32_t key, EffectSettings& settings, UiValues& values) {
   switch (key) {
@@ -74,12 +77,19 @@ std::int32_t* PlaceOf(std::uint32_t key, EffectSettings& settings, UiValues& val
 }  // namespace
 
 void LoadUiFile(const std::string& path, EffectSettings& settings, UiValues& values) {
-  for (const std::string& text : LinesOf(ReadAll(path))) {
+  const std::string bytes = ReadAll(path);
+  if (!bytes.empty()) values.newsAddress.clear();
+  for (const std::string& text : LinesOf(bytes)) {
     const PresetLine line{text, text.size()};
     PresetCursor cursor(line);
     cursor.SkipBlanks();
     const std::uint32_t key = cursor.TakeKey();
     if (key == 0) continue;
+    if (key == kNewsKey) {
+      cursor.SkipBlanks();
+      values.newsAddress = cursor.TakeText();
+      continue;
+    }
     std::int32_t* const place = PlaceOf(key, settings, values);
     if (place == nullptr) continue;
     cursor.SkipBlanks();
@@ -108,6 +118,10 @@ void SaveUiFile(const std::string& path, const EffectSettings& settings, const U
         FormatText("%s %d %s\n", line.key, static_cast<int>(line.value), line.comment);
     std::fputs(text.c_str(), file.get());
   }
+  if (values.newsAddress.empty()) return;
+  const std::string news =
+      FormatText("%s %s %s\n", "sweN", values.newsAddress.c_str(), "\t\t\t\t;Address of news");
+  std::fputs(news.c_str(), file.get());
 }
 
 }  // namespace tarnwick

@@ -44,6 +44,7 @@ struct FilterGlobals {
   // Set by the settings pages and by scripting; survive from run to run.
   SettingsSession session;
   UiValues ui;
+  bool hasNews = false;  // a newer version has been told of
   Folders folders;
   std::unique_ptr<PresetSession> presets;  // see PresetsOf
 

@@ -29,7 +29,7 @@ Loaded Load(const std::string& path) {
   EffectSettings settings;
   settings.WindowLeft = settings.WindowTop = kUnset;
   settings.WindowWidth = settings.WindowHeight = kUnset;
-  UiValues values{kUnset, kUnset};
+  UiValues values{kUnset, kUnset, {}};
   LoadUiFile(path, settings, values);
   return {settings.WindowLeft,   settings.WindowTop,         settings.WindowWidth,
           settings.WindowHeight, values.resolutionOfSharing, values.useSound};
@@ -80,7 +80,7 @@ TEST(UiFile, IsWrittenAsItIsDocumented) {
   settings.WindowTop = 20;
   settings.WindowWidth = 923;
   settings.WindowHeight = 704;
-  SaveUiFile(path, settings, {1024, 0});
+  SaveUiFile(path, settings, {1024, 0, ""});
   std::ifstream in(path, std::ios::binary);
   const std::string text{std::istreambuf_iterator<char>(in), {}};
   EXPECT_EQ(text,
@@ -91,9 +91,42 @@ TEST(UiFile, IsWrittenAsItIsDocumented) {
             "thgH 704 \t\t\t\t;Height of window\n"
             "tlsR 1024 \t\t\t\t;Resolution of sharing\n"
             "nSsU 0 \t\t\t\t;Use sound for Auto\n");
+  SaveUiFile(path, settings, {1024, 0, "http://host/news"});
+  std::ifstream more(path, std::ios::binary);
+  const std::string withNews{std::istreambuf_iterator<char>(more), {}};
+  EXPECT_EQ(withNews, text + "sweN http://host/news \t\t\t\t;Address of news\n");
   // The top is not restored.
   EXPECT_EQ(Load(path), (Loaded{-10, kUnset, 923, 704, 1024, 0}));
   SaveUiFile(folder.Path() + "/no/such/folder/ui.ini", settings, {});
+}
+
+TEST(UiFile, KeepsTheAddressOfNews) {
+  const struct {
+    const char* name;
+    const char* text;
+    const char* wanted;
+  } kFiles[] = {
+      {"up to the comment", "sweN http://h/a \t\t\t\t;Address of news\n", "http://h/a"},
+      {"at the end", "tfeL 1\n\tsweN\thttp://h/a", "http://h/a"},
+      {"nothing", "sweN \t;Address of news\n", ""},
+      {"no line takes an earlier one away", "tfeL 1\n", ""},
+      {"nor does a comment count", ";sweN http://h/a\n", ""},
+      {"an empty file tells nothing", "", "earlier"},
+  };
+  const TempFolder folder;
+  const std::string path = folder.Path() + "/ui.ini";
+  for (const auto& file : kFiles) {
+    std::ofstream(path, std::ios::binary) << file.text;
+    EffectSettings settings;
+    UiValues values;
+    values.newsAddress = "earlier";
+    LoadUiFile(path, settings, values);
+    EXPECT_EQ(values.newsAddress, file.wanted) << file.name;
+    SaveUiFile(path, settings, values);
+    UiValues again;
+    LoadUiFile(path, settings, again);
+    EXPECT_EQ(again.newsAddress, file.wanted) << file.name;
+  }
 }
 
 }  // namespace

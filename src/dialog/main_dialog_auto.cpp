@@ -1,0 +1,33 @@
+// The Auto button: all settings by chance.
+#include <ctime>
+
+#include "dialog/dialog_commands.h"
+#include "dialog/main_dialog.h"
+#include "dialog/sound.h"
+
+namespace tarnwick {
+namespace {
+
+std::uint32_t Seconds() {
+  return static_cast<std::uint32_t>(std::time(nullptr));
+}
+
+}  // namespace
+
+void MainDialog::ThrowLook() {
+  if (g_.ui.useSound != 0) {
+    hasPlayed_ = true;
+    PlaySoundResource(instance_, kAutoSound);
+  }
+  // A field that still waits for its timer would write into the new look.
+  if (pages_) pages_->FinishSpins();
+  (void)AutoRandomize(AutoLibraryOf(g_.folders.presetFolder, drawerLists_, Seconds), *g_.gParams,
+                      PresetsOf(g_));
+  if (preview_) preview_->RemakeLayers({});
+  UpdatePage(PageUpdate::kShowSettings);
+  SyncStrip();
+  ShowOptions();
+  SendMessageA(window_, WM_COMMAND, kSettingsChanged, 0);
+}
+
+}  // namespace tarnwick
