@@ -43,9 +43,14 @@ class HostRun:
         shutil.rmtree(self.folder, ignore_errors=True)
         os.makedirs(self.folder)
         self.program = None
+        # Files of the module's folder of presets by their names in it, for open().
+        self.presets = {}
 
     def file(self, name):
         return os.path.join(self.folder, name)
+
+    def preset(self, name):
+        return self.file(os.path.join("Tarnwick Studio", "Presets", name))
 
     def put(self, name, data):
         with open(self.file(name), "wb") as file:
@@ -77,9 +82,24 @@ class HostRun:
                  *lines]
         scenario = self.put("run.scn", "\n".join(lines + [""]).encode())
         self.program = self.session.start(
-            self.arguments.host, "--data", self.arguments.data, "--lists",
+            self.arguments.host, "--data", self.data(), "--lists",
             self.arguments.lists, "--module", self.arguments.module, "--keep", self.folder,
             scenario)
+
+    def data(self):
+        """The folder from which the host takes what lies beside the module."""
+        if not self.presets:
+            return self.arguments.data
+        folder = self.file("data")
+        shutil.rmtree(folder, ignore_errors=True)
+        textures = os.path.join("golden", "textures")
+        shutil.copytree(os.path.join(self.arguments.data, textures),
+                        os.path.join(folder, textures))
+        for name, data in self.presets.items():
+            path = os.path.join(folder, textures, "Presets", name)
+            os.makedirs(os.path.dirname(path), exist_ok=True)
+            self.put(path, data)
+        return folder
 
     def finish(self):
         """The host has gone on, and found what it was to expect."""

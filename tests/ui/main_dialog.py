@@ -13,6 +13,7 @@ import subprocess
 import dialog_help  # noqa: F401  more scenarios
 import dialog_options  # noqa: F401
 import dialog_pages  # noqa: F401
+import dialog_presets  # noqa: F401
 import dialog_preview  # noqa: F401
 import dialog_strip  # noqa: F401
 from host_run import HostRun

@@ -141,6 +141,10 @@ class Window:
     def tips(self):
         return self.session.ask("tips", self.number)
 
+    def rows(self):
+        """The texts of a list box."""
+        return self.session.ask("rows", self.number)
+
     def has_focus(self):
         return self.session.ask("focus")["focus"] == self.number
 

@@ -7,7 +7,8 @@
 //
 //   start LOG COMMAND LINE    the new process, or 0; LOG has no spaces
 //   program P | end P | resources P
-//   tops | children W | window W | tips W | tabs W | focus | pointer
+//   tops | children W | window W | tips W | tabs W | rows W | focus |
+//   pointer
 //   send W MESSAGE WPARAM LPARAM    the window's answer
 //
 // The pointer and the keys are the driver's: the agent only looks.
@@ -84,6 +85,8 @@ std::string AnswerTo(const std::string& line) {
     TellTips(window, answer);
   } else if (command == "tabs") {
     TellTabs(window, answer);
+  } else if (command == "rows") {
+    TellRows(window, answer);
   } else if (command == "focus") {
     TellFocus(answer);
   } else if (command == "pointer") {

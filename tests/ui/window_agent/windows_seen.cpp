@@ -90,6 +90,23 @@ void TellFocus(JsonLine& answer) {
   answer.Key("active").Number(NumberOf(info.hwndActive)).End('}');
 }
 
+void TellRows(HWND list, JsonLine& answer) {
+  LRESULT count = 0;
+  if (!Ask(list, LB_GETCOUNT, 0, 0, count)) count = 0;
+  answer.Begin('[');
+  for (LRESULT row = 0; row < count; ++row) {
+    // From another process they come in wide letters, whatever is asked for.
+    wchar_t wide[512] = {};
+    DWORD_PTR length = 0;
+    SendMessageTimeoutW(list, LB_GETTEXT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(wide),
+                        SMTO_NORMAL, kPatienceMs, &length);
+    char text[512] = {};
+    WideCharToMultiByte(CP_ACP, 0, wide, -1, text, sizeof text, nullptr, nullptr);
+    answer.Text(text);
+  }
+  answer.End(']');
+}
+
 long long PointerShape() {
   CURSORINFO info{};
   info.cbSize = sizeof info;

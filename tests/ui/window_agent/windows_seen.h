@@ -30,6 +30,9 @@ void TellTips(HWND window, JsonLine& answer);
 // The captions of a tab control, as a list.
 void TellTabs(HWND tabs, JsonLine& answer);
 
+// The texts of a list box's rows, as a list.
+void TellRows(HWND list, JsonLine& answer);
+
 // Waits for the window's answer for some seconds at most.
 [[nodiscard]] bool Ask(HWND window, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& answer);
 
