@@ -11,6 +11,7 @@ import shutil
 import subprocess
 
 import dialog_help  # noqa: F401  more scenarios
+import dialog_links  # noqa: F401
 import dialog_options  # noqa: F401
 import dialog_pages  # noqa: F401
 import dialog_presets  # noqa: F401
