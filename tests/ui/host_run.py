@@ -137,6 +137,7 @@ class Dialog:
     def __init__(self, run):
         self.run, self.screen, self.program = run, run.screen, run.program
         self.window = self.program.window("Tarnwick Studio")
+        self.tab_places = {}
         wait_for(lambda: self.screen.focused() == "Tarnwick Studio", "the dialog gets no keys")
         self.look()
 
@@ -162,12 +163,14 @@ class Dialog:
         """Brings up a page by a click on its tab."""
         tabs = self[999]
         captions = tabs.session.ask("tabs", tabs.number)
-        # Tabs are as wide as their captions; the clicks go along them.
-        for x in range(10, tabs.size[0], 8):
+        # Tabs are as wide as their captions; the clicks go along them, once.
+        known = self.tab_places.get(index)
+        for x in range(10, tabs.size[0], 8) if known is None else [known]:
             if tabs.send(0x130B) == index:
                 break
             self.screen.click(*tabs.place(x, 8))
             wait_for(lambda: tabs.send(0) == 0, "the tabs do not answer")
+            self.tab_places.setdefault(tabs.send(0x130B), x)
         assert tabs.send(0x130B) == index, f"no tab {index} in {captions}"
         self.look()
 

@@ -14,6 +14,7 @@ import dialog_help  # noqa: F401  more scenarios
 import dialog_links  # noqa: F401
 import dialog_options  # noqa: F401
 import dialog_pages  # noqa: F401
+import dialog_preset_saving  # noqa: F401
 import dialog_presets  # noqa: F401
 import dialog_preview  # noqa: F401
 import dialog_strip  # noqa: F401
