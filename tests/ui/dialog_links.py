@@ -424,12 +424,15 @@ def of_room(across, up):
     return (100 - across) * ROOM[0] / 200, (100 + up) * ROOM[1] / 200
 
 
-def first_clear(lengths, offset_of):
-    """A length and its offset, which no rounding of its parts can bring to another one."""
+def first_clear(now, lengths, offset_of):
+    """A length and the offset that it leads to; the way from the present one is truncated.
+
+    No rounding on it can lead to another one.
+    """
     for length in lengths:
-        offset = offset_of(length)
-        if all(0.03 < value % 1 < 0.97 for value in offset):
-            return length, tuple(map(int, offset))
+        wanted = offset_of(length)
+        if all(0.03 < value % 1 < 0.97 for value in wanted):
+            return length, tuple(old + int(new - old) for old, new in zip(now, wanted))
     raise AssertionError("any of them may come out either way")
 
 
@@ -450,7 +453,10 @@ def wait_offset(page, offset):
     page[FIELD_Y].wait_text(str(offset[1]))
     ball = page[BALL]
     x, y = cross_of(ball, offset)
-    arms = [(x - 3, y), (x + 3, y), (x, y - 3), (x, y + 3), (x, y)]
+    # Near the rim one may lie beyond the ball's window.
+    arms = [(left, top) for left, top in
+            ((x - 3, y), (x + 3, y), (x, y - 3), (x, y + 3), (x, y))
+            if 0 <= left < ball.size[0] and 0 <= top < ball.size[1]]
     wait_for(lambda: all(ball.at(*arm) == (0, 0, 0) for arm in arms),
              lambda: f"no cross at ({x}, {y}): {[ball.at(*arm) for arm in arms]}")
     page.dialog.wait_pane(page.dialog.window_at(
@@ -475,22 +481,22 @@ def the_ball_moves_the_wash(run):
     page.click(ball, *middle)
     wait_offset(page, (60, 101))  # half of either
     # Straight up from the middle: only what goes down changes, as far as the ball is wide.
-    up, offset = first_clear(range(middle[1] // 2, 1, -1),
+    up, offset = first_clear((60, 101), range(middle[1] // 2, 1, -1),
                              lambda way: of_room(0, 100 * way / middle[0]))
     ball.drag(middle, (middle[0], middle[1] - up))
     wait_offset(page, offset)
     # Down to the edge, and beyond: no further than the ball is high.
-    _, offset = first_clear([ball.size[1] - middle[1]],
+    _, offset = first_clear(offset, [ball.size[1] - middle[1]],
                             lambda way: of_room(0, -100 * way / middle[0]))
     ball.drag(middle, (middle[0], middle[1] + 200))
     wait_offset(page, offset)
     # Up to the left between the two: as much of either.
-    aside, offset = first_clear(range(middle[0] * 2 // 5, 1, -1), lambda way: of_room(
+    aside, offset = first_clear(offset, range(middle[0] * 2 // 5, 1, -1), lambda way: of_room(
         -math.sqrt(2) * 100 * way / middle[0], math.sqrt(2) * 100 * way / middle[0]))
     ball.drag(middle, (middle[0] - aside, middle[1] - aside))
     wait_offset(page, offset)
     # A press is measured two pixels shorter than a drag.
-    aside, offset = first_clear(range(middle[0] * 2 // 5, 1, -1), lambda way: of_room(
+    aside, offset = first_clear(offset, range(middle[0] * 2 // 5, 1, -1), lambda way: of_room(
         math.sqrt(2) * 100 * way / (middle[0] - 2), -math.sqrt(2) * 100 * way / (middle[0] - 2)))
     page.click(ball, middle[0] + aside, middle[1] + aside)
     wait_offset(page, offset)
