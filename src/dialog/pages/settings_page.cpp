@@ -35,6 +35,7 @@ constexpr Stretched kStretched[] = {
 constexpr int kBelowGroup = 9;
 constexpr int kBelowButtons = 6;
 constexpr int kAboveButtons = 4;
+constexpr int kBelowFilmstrip = 2;
 
 constexpr int kFirstSwatch = 1047;
 constexpr int kHiddenSaves[] = {1302, 1400};
@@ -145,6 +146,7 @@ void SettingsPage::Make() {
   for (const PresetList& list : kPresetLists) {
     if (list.tab == tab_) context_.presets.Fill(window_, list.kind);
   }
+  if (tab_ == kBackgroundTab) MakeFilmstrip();
   ShowValues();
 }
 
@@ -249,7 +251,10 @@ void SettingsPage::Stretch() {
   GetClientRect(window_, &client);
   const RECT frame = PlaceIn(group, window_);
   const int bottom = client.bottom - kBelowGroup;
-  MoveTo(group, frame.left, frame.top, frame.right - frame.left, bottom - frame.top);
+  // It has the same height on all screens, where the page's template grows.
+  int top = frame.top;
+  if (PlaceFilmstrip(top)) top += kBelowFilmstrip;
+  MoveTo(group, frame.left, top, frame.right - frame.left, bottom - top);
   int buttonsTop = bottom - kBelowButtons;
   for (const int id : {parts.save, parts.remove}) {
     const RECT button = PlaceIn(Item(id), window_);
@@ -261,7 +266,8 @@ void SettingsPage::Stretch() {
   MoveTo(Item(parts.path), path.left, buttonsTop + kAboveButtons, path.right - path.left,
          path.bottom - path.top);
   const RECT rows = PlaceIn(list, window_);
-  MoveTo(list, rows.left, rows.top, rows.right - rows.left, buttonsTop - kAboveButtons - rows.top);
+  const int rowsTop = rows.top + top - frame.top;
+  MoveTo(list, rows.left, rowsTop, rows.right - rows.left, buttonsTop - kAboveButtons - rowsTop);
 }
 
 }  // namespace tarnwick

@@ -3,11 +3,13 @@
 
 #include <array>
 #include <list>
+#include <memory>
 
 #include "controls/color_swatch.h"
 #include "controls/image_button.h"
 #include "controls/mac_slider.h"
 #include "controls/rotor_control.h"
+#include "dialog/filmstrip/filmstrip_control.h"
 #include "dialog/models/page_rows.h"
 #include "dialog/models/page_values.h"
 #include "dialog/models/texture_matches.h"
@@ -57,6 +59,11 @@ class SettingsPage {
   void AddTips(const ControlRow& row);
   void Stretch();
 
+  // page_filmstrip.cpp
+  void MakeFilmstrip();
+  // Below the colours; true with where it ends.
+  [[nodiscard]] bool PlaceFilmstrip(int& bottom);
+
   // page_values.cpp
   void ShowRow(const ControlRow& row);
   void EnableRow(const ControlRow& row, const PageFacts& facts);
@@ -93,6 +100,7 @@ class SettingsPage {
   HWND window_ = nullptr;
   // Of the skinned buttons, whose windows look into them.
   std::list<ImageButtonState> skins_;
+  std::unique_ptr<TFilmstripControl> film_;  // on the background page
   // A click on an up-down has been, and its work waits for the next ones.
   const ControlRow* spinRow_ = nullptr;
   UINT_PTR spinTimer_ = 0;

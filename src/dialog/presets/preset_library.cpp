@@ -121,6 +121,7 @@ void PresetLibrary::Delete(HWND page, const PresetList& list) {
   DeleteFileA(folders_.File(list.kind, name).c_str());
   SendMessageA(box, LB_DELETESTRING, static_cast<WPARAM>(row), 0);
   UpdateDeleteButton(page, list);
+  if (listener_) listener_();
 }
 
 void PresetLibrary::Save(PresetKind kind, HWND page) {
@@ -135,8 +136,11 @@ void PresetLibrary::Save(PresetKind kind, HWND page) {
     return;
   }
   const PresetList* const list = PresetListOf(kind);
-  if (answer != NameAnswer::kNew || list == nullptr || page == nullptr) return;
-  SendDlgItemMessageA(page, list->listId, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(name.c_str()));
+  if (answer == NameAnswer::kNew && list != nullptr && page != nullptr) {
+    SendDlgItemMessageA(page, list->listId, LB_ADDSTRING, 0,
+                        reinterpret_cast<LPARAM>(name.c_str()));
+  }
+  if (listener_) listener_();
 }
 
 bool PresetLibrary::LoadPreset(std::string_view name, PresetKind kind) {
@@ -147,6 +151,11 @@ bool PresetLibrary::LoadPreset(std::string_view name, PresetKind kind) {
 
 bool PresetLibrary::LoadBackPalette(std::string_view name) {
   return Read(name, PresetKind::kBackPalette);
+}
+
+void PresetLibrary::ShowNewBackground() {
+  hooks_.remakeLayers({.washes = true, .surfaces = true, .background = false});
+  hooks_.settingsChanged();
 }
 
 bool PresetLibrary::Read(std::string_view name, PresetKind kind) {

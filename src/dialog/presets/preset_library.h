@@ -4,6 +4,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "dialog/bitmap_set.h"
 #include "dialog/models/effect_views.h"
@@ -52,14 +53,19 @@ class PresetLibrary {
   // Names come with or without the extension. Colours and back palettes are found in
   // their folders, all others where their list stands.
   [[nodiscard]] bool LoadPreset(std::string_view name, PresetKind kind);
-  // A look of the filmstrip, for which the strip stays as it is.
+  // A look of the filmstrip, for which the strip above the pane stays as it is.
   [[nodiscard]] bool LoadBackPalette(std::string_view name);
+  // After such a look: the background's layer is made anew, and a redraw asked for.
+  void ShowNewBackground();
 
   // Asks for a name and saves the share of the kind. With a page, a new name goes into
   // its list; a kind of colours has none.
   void Save(PresetKind kind, HWND page = nullptr);
 
   [[nodiscard]] const PresetFolders& Folders() const { return folders_; }
+
+  // Who wants to know that a preset was saved or deleted; none takes it off.
+  void TellOfChanges(std::function<void()> listener) { listener_ = std::move(listener); }
 
  private:
   void Select(HWND page, const PresetList& list);
@@ -75,6 +81,7 @@ class PresetLibrary {
   PresetLibraryHooks hooks_;
   PresetFolders folders_;
   BitmapSet bitmaps_;
+  std::function<void()> listener_;
 };
 
 }  // namespace tarnwick

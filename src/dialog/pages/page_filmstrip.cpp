@@ -1,0 +1,36 @@
+// The strip of looks on the background page.
+#include "dialog/pages/settings_page.h"
+#include "dialog/presets/preset_library.h"
+
+namespace tarnwick {
+namespace {
+
+constexpr int kFilmstrip = 1157;
+
+}  // namespace
+
+void SettingsPage::MakeFilmstrip() {
+  film_ = std::make_unique<TFilmstripControl>(
+      context_.g, context_.presets, context_.bitmaps,
+      FilmstripHooks{[this] { FinishSpin(); }, [this] { context_.showAll(); },
+                     [this] { context_.fail(); }});
+  film_->ScanPresets(PresetKind::kBackPalette);
+  film_->AttachToDialogItem(window_, kFilmstrip);
+  film_->CreateStrip(context_.instance);
+  film_->LoadThumbnails(PresetKind::kBackPalette);
+  context_.presets.TellOfChanges([this] { film_->RescanAndLoad(PresetKind::kBackPalette); });
+}
+
+bool SettingsPage::PlaceFilmstrip(int& bottom) {
+  if (film_ == nullptr || film_->window == nullptr) return false;
+  RECT place{};
+  GetWindowRect(film_->window, &place);
+  MapWindowPoints(nullptr, window_, reinterpret_cast<POINT*>(&place), 2);
+  RECT client{};
+  GetClientRect(window_, &client);
+  film_->Place(place.top, client.right);
+  bottom = place.top + kFilmHeight;
+  return true;
+}
+
+}  // namespace tarnwick
