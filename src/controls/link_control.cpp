@@ -27,7 +27,7 @@ void Paint(const LinkRecord& link) {
   GetWindowTextA(link.window, text.data(), static_cast<int>(text.size()));
   const Selected font(buffer.Dc(), link.underlined);
   const bool isEnabled = IsWindowEnabled(link.window) != FALSE;
-  SetTextColor(buffer.Dc(), GetSysColor(isEnabled ? COLOR_HOTLIGHT : COLOR_GRAYTEXT));
+  SetTextColor(buffer.Dc(), isEnabled ? RGB(0, 0, 255) : GetSysColor(COLOR_GRAYTEXT));
   SetBkMode(buffer.Dc(), TRANSPARENT);
   constexpr UINT kFormat = DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX;
   RECT place = buffer.Client();

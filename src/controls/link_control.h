@@ -5,10 +5,10 @@
 
 namespace tarnwick {
 
-// "ContainerLinkC": a line of text that leads somewhere, underlined in the system's
-// colour of links, on the dialog's face. Its caption is the window's text, its font the
-// one that dialogs give their controls. With WS_TABSTOP the keys reach it too: Enter or
-// the space bar do what a click does. Posts WM_COMMAND with its id to its parent.
+// "ContainerLinkC": a line of text that leads somewhere, underlined in blue on the
+// dialog's face. Its caption is the window's text, its font the one that dialogs give
+// their controls. With WS_TABSTOP the keys reach it too: Enter or the space bar do what
+// a click does. Posts WM_COMMAND with its id to its parent.
 struct LinkRecord {
   HWND window = nullptr;
   std::int32_t id = 0;
