@@ -79,6 +79,9 @@ void SettingsPage::ArmTimer(const ControlRow& row) {
 
 void SettingsPage::TimerExpired(UINT_PTR timer) {
   if (timer != spinTimer_) return;
+  // A box is up, which a texture that is being loaded may have brought: nothing is to be
+  // rendered below it. The timer comes again.
+  if (IsWindowEnabled(context_.dialog) == FALSE) return;
   FinishSpin();
   Changed();
 }
