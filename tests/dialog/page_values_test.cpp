@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 namespace tarnwick {
 namespace {
 
@@ -12,6 +14,11 @@ TEST(PageValues, TypedTextsBecomeNumbers) {
   EXPECT_EQ(ParseValue(""), 0.0F);
   EXPECT_EQ(ParseValue("much"), 0.0F);
   EXPECT_EQ(ParseValue("nan"), 0.0F);
+  EXPECT_EQ(ParseValue("-inf"), 0.0F);
+  EXPECT_EQ(ParseValue("0x20"), 0.0F);
+  EXPECT_EQ(ParseValue("+.5x"), 0.5F);
+  // A light whose angle is no number would leave nothing of the picture.
+  EXPECT_LT(ParseValue("9e99"), std::numeric_limits<float>::infinity());
   // Sixteen characters count.
   EXPECT_EQ(ParseValue("00000000000000017"), 1.0F);
   EXPECT_EQ(ParseWhole("1234"), 1234);
@@ -37,24 +44,37 @@ TEST(PageValues, TextsOfNumbersAndNames) {
   EXPECT_EQ(TextureTitle("a.twk.png"), "a.twk.png");
 }
 
-// Range 80 by 40: the ball's right is no offset along x, its left is all of it; its top
-// is none along y.
+// Range 80 by 40: the ball's right is no offset along x, its left is all of it; its foot
+// is none along y, its top all.
 TEST(PageValues, TheBallStandsForAnOffset) {
   const TextureOffset range{80, 40};
   const auto offset = [&](float x, float y) { return OffsetOfBall({x, y}, range); };
-  EXPECT_EQ(offset(100, -100).x, 0);
-  EXPECT_EQ(offset(100, -100).y, 0);
-  EXPECT_EQ(offset(-100, 100).x, 80);
-  EXPECT_EQ(offset(-100, 100).y, 40);
-  EXPECT_EQ(offset(0, 0).x, 40);
-  EXPECT_EQ(offset(0, 0).y, 20);
-  EXPECT_EQ(offset(99, 0).x, 0);  // 0.4 of a pixel
+  EXPECT_EQ(offset(100, -100).x, 0.0F);
+  EXPECT_EQ(offset(100, -100).y, 0.0F);
+  EXPECT_EQ(offset(-100, 100).x, 80.0F);
+  EXPECT_EQ(offset(-100, 100).y, 40.0F);
+  EXPECT_EQ(offset(0, 0).x, 40.0F);
+  EXPECT_EQ(offset(0, 0).y, 20.0F);
+  EXPECT_FLOAT_EQ(offset(99, 0).x, 0.4F);
   const BallOffset ball = BallOfOffset({20, 30}, range);
   EXPECT_EQ(ball.x, 50.0F);
   EXPECT_EQ(ball.y, 50.0F);
   const BallOffset fixed = BallOfOffset({0, 0}, {0, 0});
   EXPECT_EQ(fixed.x, 0.0F);
   EXPECT_EQ(fixed.y, 0.0F);
+}
+
+// To 33.5 and 10: what is left of a pixel counts on the way there, whichever way that is.
+TEST(PageValues, TheWayIsMadeWholeOnce) {
+  const OffsetPoint wanted{33.5F, 10};
+  const auto way = [&](int x, int y, float scale) { return WayTo(wanted, {x, y}, scale); };
+  EXPECT_EQ(way(20, 10, 1).x, 13);
+  EXPECT_EQ(way(20, 10, 1).y, 0);
+  EXPECT_EQ(way(40, 30, 1).x, -6);  // from 40 back by 6.5
+  EXPECT_EQ(way(40, 30, 1).y, -20);
+  EXPECT_EQ(way(33, 10, 1).x, 0);
+  EXPECT_EQ(way(40, 31, 3).x, -2);  // 6.5 by 3
+  EXPECT_EQ(way(40, 31, 3).y, -7);
 }
 
 TEST(PageValues, TypedOffsetsStayBelowTheLargest) {

@@ -3,7 +3,7 @@
 A new control is a row in one of the tables. After OK the host looks at every setting:
 those that were touched have their new values, all others are as they were.
 """
-from scenarios import equal, scenario
+from scenarios import equal, near, scenario
 from screen import wait_for
 
 CANCELLED = ["expect error -128", "expect untouched"]
@@ -365,6 +365,34 @@ def what_can_be_used(run):
         dialog.cancel()
 
 
+SAVED, SAVE, DELETE = ("Click to apply previously saved settings", "Save current settings",
+                       "Delete selected preset")
+# Of the presets, and of what stands second in a row.
+TIPS = {
+    0: {1084: "Click to apply factory created settings", 1013: SAVED, 1300: SAVE, 1092: DELETE},
+    1: {1085: SAVED, 1382: SAVE, 1087: DELETE, 1032: "Apply wash effect outside image selection"},
+    2: {1086: SAVED, 1383: SAVE, 1088: DELETE,
+        1016: "Adjust the lighting direction applied to surface effect"},
+    3: {1012: SAVED, 1045: SAVE, 1046: DELETE},
+}
+
+
+@scenario()
+def tips_are_there(run):
+    dialog = run.open(width=60, height=44, after=CANCELLED)
+    for tab, tips in TIPS.items():
+        page = Page(dialog, tab)
+        equal({number: page[number].tips() for number in tips},
+              {number: [text] for number, text in tips.items()})
+        if tab:
+            continue
+        # A list that has grown has its tip all over.
+        page[1013].move(0.5, 0.97)
+        wait_for(lambda: any(one.visible for one in dialog.program.windows()
+                             if one.class_name == "tooltips_class32"), "no tip comes")
+    dialog.cancel()
+
+
 def overlaps(one, other):
     """By more than the pixel that rounding makes."""
     return (one[0] < other[2] - 1 and other[0] < one[2] - 1 and one[1] < other[3] - 1
@@ -375,6 +403,7 @@ def overlaps(one, other):
 def pages_are_tidy(run):
     """Nothing is cut, and nothing lies on another."""
     dialog = run.open(width=400, height=300, after=CANCELLED)
+    edges = []
     for tab, name in enumerate(("basic", "wash", "surface", "background")):
         page = Page(dialog, tab)
         left, top, right, bottom = page.window.client
@@ -383,6 +412,7 @@ def pages_are_tidy(run):
             assert item.frame[0] >= left and item.frame[1] >= top and item.frame[2] <= right \
                 and item.frame[3] <= bottom, f"{item.id} at {item.frame} is cut on {name}"
         groups = (1118, 1157, 2120, 2121, 2122, 2123, 2130, -1)
+        edges.append(max(item.frame[2] for item in shown if item.id in groups) - left)
         solid = [item for item in shown if item.id not in groups]
         for index, one in enumerate(solid):
             for other in solid[index + 1:]:
@@ -391,4 +421,6 @@ def pages_are_tidy(run):
                     one.class_name + other.class_name, \
                     f"{one.id} at {one.frame} lies on {other.id} at {other.frame} on {name}"
         dialog.window.shot(f"page-{name}")
+    # The first page is there before the dialog has its size.
+    near(edges[0], edges[1], 3)
     dialog.cancel()

@@ -1,7 +1,6 @@
 #include "dialog/models/page_values.h"
 
 #include <algorithm>
-#include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <limits>
@@ -12,8 +11,14 @@ namespace tarnwick {
 
 float ParseValue(std::string_view text) {
   const std::string head(text.substr(0, kMaxValueText));
-  const float value = std::strtof(head.c_str(), nullptr);
-  return std::isnan(value) ? 0.0F : value;
+  // The library also knows words, and numbers to other bases.
+  const std::size_t digits = head.find_first_not_of(" \t+-");
+  if (digits == std::string::npos || head.find_first_of("0123456789.", digits) != digits ||
+      head.find_first_of("xX") == digits + 1) {
+    return 0;
+  }
+  constexpr float kLargest = std::numeric_limits<float>::max();
+  return std::clamp(std::strtof(head.c_str(), nullptr), -kLargest, kLargest);
 }
 
 std::int32_t ParseWhole(std::string_view text) {
@@ -45,11 +50,18 @@ std::string TextureTitle(std::string_view fileName) {
   return title;
 }
 
-TextureOffset OffsetOfBall(BallOffset ball, TextureOffset range) {
+OffsetPoint OffsetOfBall(BallOffset ball, TextureOffset range) {
   const auto along = [](float share, std::int32_t length) {
-    return TruncateToInt(static_cast<double>(share * static_cast<float>(length) / 200.0F));
+    return share * static_cast<float>(length) / 200.0F;
   };
   return {along(100.0F - ball.x, range.x), along(ball.y + 100.0F, range.y)};
+}
+
+TextureOffset WayTo(OffsetPoint wanted, TextureOffset now, float viewScale) {
+  const auto along = [&](float to, std::int32_t from) {
+    return TruncateToInt(static_cast<double>((to - static_cast<float>(from)) / viewScale));
+  };
+  return {along(wanted.x, now.x), along(wanted.y, now.y)};
 }
 
 BallOffset BallOfOffset(TextureOffset offset, TextureOffset range) {

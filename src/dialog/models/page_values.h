@@ -11,8 +11,8 @@ namespace tarnwick {
 
 inline constexpr std::size_t kMaxValueText = 16;
 
-// The number that a text starts with; 0 where it starts with none. Only the first
-// kMaxValueText characters count.
+// The number that a text starts with, a finite one; 0 where it starts with none. Only the
+// first kMaxValueText characters count.
 [[nodiscard]] float ParseValue(std::string_view text);
 // The same for whole numbers; beyond the range the nearest.
 [[nodiscard]] std::int32_t ParseWhole(std::string_view text);
@@ -36,8 +36,17 @@ inline constexpr std::int32_t kSeeds = 1000;
 struct TextureOffset {
   std::int32_t x, y;
 };
-[[nodiscard]] TextureOffset OffsetOfBall(BallOffset ball, TextureOffset range);
+struct OffsetPoint {
+  float x, y;
+};
+[[nodiscard]] OffsetPoint OffsetOfBall(BallOffset ball, TextureOffset range);
 [[nodiscard]] BallOffset BallOfOffset(TextureOffset offset, TextureOffset range);
+
+// How far a texture moves that lies at `now` and is to go to `wanted`. Odd, and kept: the
+// way is divided by the scale, so a picture that is shown smaller moves less than it is
+// told. Only the way is made whole, towards none: a place between two pixels is reached
+// from either side as far as it goes.
+[[nodiscard]] TextureOffset WayTo(OffsetPoint wanted, TextureOffset now, float viewScale);
 
 // A number typed for an offset: from 0 to below the largest one.
 [[nodiscard]] std::int32_t LimitOffset(std::int32_t typed, std::int32_t range);

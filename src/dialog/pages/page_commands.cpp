@@ -113,6 +113,7 @@ bool SettingsPage::RowCommand(const ControlRow& row, int id, WORD notification) 
       if (!isField) {
         if (const auto* const ball = GetControlRecord<Rotor>(Item(row.id), kRotorClass);
             ball != nullptr) {
+          FinishSpin();
           context_.edits.SetLight(ball->angles.azimuth, ball->angles.altitude);
           Changed();
         }
@@ -234,20 +235,25 @@ void SettingsPage::CommitLight(const ControlRow& row, int editId) {
   float alpha = settings.SurfaceLightAlpha;
   float beta = settings.SurfaceLightBeta;
   (editId == row.editId ? alpha : beta) = std::trunc(ParseValue(text));
+  FinishSpin();
   context_.edits.SetLight(alpha, beta);
   ShowRow(row);
   Changed();
 }
 
 void SettingsPage::CommitOffset(const ControlRow& row, int editId) {
-  if (TextOf(editId) == FieldText(row, editId)) return;
+  const std::string text = TextOf(editId);
+  if (text == FieldText(row, editId)) return;
+  // The texture may be about to get another scale: how far it reaches hangs on that.
+  FinishSpin();
   TextureOffset range{};
-  TextureOffset wanted = OffsetNow(range);
-  const std::int32_t typed = ParseWhole(TextOf(editId));
+  const TextureOffset now = OffsetNow(range);
+  OffsetPoint wanted{static_cast<float>(now.x), static_cast<float>(now.y)};
+  const std::int32_t typed = ParseWhole(text);
   if (editId == row.editId) {
-    wanted.x = LimitOffset(typed, range.x);
+    wanted.x = static_cast<float>(LimitOffset(typed, range.x));
   } else {
-    wanted.y = LimitOffset(typed, range.y);
+    wanted.y = static_cast<float>(LimitOffset(typed, range.y));
   }
   MoveOffsetTo(wanted);
 }
@@ -255,28 +261,24 @@ void SettingsPage::CommitOffset(const ControlRow& row, int editId) {
 void SettingsPage::DragOffset(const ControlRow& row) {
   const auto* const ball = GetControlRecord<Rotor>(Item(row.id), kRotorClass);
   if (ball == nullptr) return;
+  // Before what is put off shows the ball where the texture lies now.
+  const BallOffset place = GetRotorOffset(*ball);
+  FinishSpin();
   TextureOffset range{};
   (void)OffsetNow(range);
-  MoveOffsetTo(OffsetOfBall(GetRotorOffset(*ball), range));
+  MoveOffsetTo(OffsetOfBall(place, range));
 }
 
-// Odd, and kept: the way is divided by the scale, so a picture that is shown smaller
-// moves less than it is told.
-void SettingsPage::MoveOffsetTo(TextureOffset wanted) {
+void SettingsPage::MoveOffsetTo(OffsetPoint wanted) {
   TextureOffset range{};
-  const TextureOffset now = OffsetNow(range);
-  const auto scaled = [&](std::int32_t way) {
-    return TruncateToInt(
-        static_cast<double>(static_cast<float>(way) / context_.g.render.viewScale));
-  };
-  FinishSpin();
-  context_.edits.MoveOffset(tab_, scaled(WrappingSubtract(wanted.x, now.x)),
-                            scaled(WrappingSubtract(wanted.y, now.y)));
+  const TextureOffset way = WayTo(wanted, OffsetNow(range), context_.g.render.viewScale);
+  context_.edits.MoveOffset(tab_, way.x, way.y);
   ShowOffset();
   Changed();
 }
 
 void SettingsPage::ClickLink() {
+  FinishSpin();
   const LayerKind kind = KindOfTab(tab_);
   const TextureMatches matches = context_.edits.Update();
   std::uint8_t& flag = LinkFlagOf(kind, context_.g.session);

@@ -1,8 +1,10 @@
 // How a page comes into being, and where its controls lie.
 #include "dialog/pages/settings_page.h"
 
+#include <algorithm>
 #include <exception>
 #include <memory>
+#include <utility>
 
 #include "controls/control_classes.h"
 #include "controls/control_shared.h"
@@ -37,6 +39,11 @@ constexpr int kBelowButtons = 6;
 constexpr int kAboveButtons = 4;
 constexpr int kBelowFilmstrip = 2;
 
+constexpr char kFactoryTip[] = "Click to apply factory created settings";
+constexpr char kSavedTip[] = "Click to apply previously saved settings";
+constexpr char kSaveTip[] = "Save current settings";
+constexpr char kDeleteTip[] = "Delete selected preset";
+
 constexpr int kFirstSwatch = 1047;
 constexpr int kHiddenSaves[] = {1302, 1400};
 
@@ -60,18 +67,13 @@ void MoveTo(HWND window, int left, int top, int width, int height) {
   if (window != nullptr) MoveWindow(window, left, top, width, height > 0 ? height : 0, TRUE);
 }
 
-// On some screens the room grows less than fonts do: all there is gets narrower then.
-void FitAcross(HWND page, int width) {
-  RECT client{};
-  GetClientRect(page, &client);
-  if (client.right <= width || width <= 0) return;
-  const auto fit = [&](int x) { return MulDiv(x, width, client.right); };
-  for (HWND child = GetWindow(page, GW_CHILD); child != nullptr;
-       child = GetWindow(child, GW_HWNDNEXT)) {
-    const RECT place = PlaceIn(child, page);
-    const int left = fit(place.left);
-    MoveTo(child, left, place.top, fit(place.right) - left, place.bottom - place.top);
+// With its list, where it has one to drop: the height of such a control is that of both.
+int WholeHeight(HWND window) {
+  RECT place{};
+  if (SendMessageA(window, CB_GETDROPPEDCONTROLRECT, 0, reinterpret_cast<LPARAM>(&place)) == 0) {
+    GetWindowRect(window, &place);
   }
+  return place.bottom - place.top;
 }
 
 }  // namespace
@@ -82,8 +84,9 @@ SettingsPage* SettingsPage::Create(const PageContext& context, int tab, const RE
       CreateDialogParamA(context.instance, MAKEINTRESOURCEA(kTemplates[tab]), context.dialog,
                          PageProc, reinterpret_cast<LPARAM>(page.get()));
   if (window == nullptr) return nullptr;
-  FitAcross(window, place.right - place.left);
+  page->KeepWidths();
   page->Place(place);
+  page->AddPresetTips();
   return page.release();
 }
 
@@ -231,7 +234,44 @@ void SettingsPage::AddTips(const ControlRow& row) {
   if (row.spinId != 0) AddToolTip(Item(row.spinId), row.tip, nullptr);
 }
 
+// Once they have their sizes.
+void SettingsPage::AddPresetTips() {
+  for (const PresetList& list : kPresetLists) {
+    if (list.tab != tab_) continue;
+    const HWND tip = AddToolTip(Item(list.listId),
+                                list.kind == PresetKind::kBasic ? kFactoryTip : kSavedTip, nullptr);
+    if (list.listId == kStretched[tab_].list) stretchedTip_ = tip;
+    AddToolTip(Item(list.saveId), kSaveTip, nullptr);
+    AddToolTip(Item(list.deleteId), kDeleteTip, nullptr);
+  }
+}
+
+void SettingsPage::KeepWidths() {
+  RECT client{};
+  GetClientRect(window_, &client);
+  templateWidth_ = width_ = client.right;
+  for (HWND child = GetWindow(window_, GW_CHILD); child != nullptr;
+       child = GetWindow(child, GW_HWNDNEXT)) {
+    const RECT place = PlaceIn(child, window_);
+    across_.push_back({child, place.left, place.right});
+  }
+}
+
+// On some screens the room grows less than fonts do: all there is gets narrower then. The
+// first page is made before the room has its size.
+void SettingsPage::FitAcross(int width) {
+  const int fitted = std::min(width, templateWidth_);
+  if (fitted <= 0 || std::exchange(width_, fitted) == fitted) return;
+  const auto fit = [&](int x) { return MulDiv(x, fitted, templateWidth_); };
+  for (const Across& one : across_) {
+    const int left = fit(one.left);
+    MoveTo(one.window, left, PlaceIn(one.window, window_).top, fit(one.right) - left,
+           WholeHeight(one.window));
+  }
+}
+
 void SettingsPage::Place(const RECT& place) {
+  FitAcross(place.right - place.left);
   SetWindowPos(window_, HWND_TOP, place.left, place.top, place.right - place.left,
                place.bottom - place.top, SWP_NOACTIVATE);
 }
@@ -268,6 +308,7 @@ void SettingsPage::Stretch() {
   const RECT rows = PlaceIn(list, window_);
   const int rowsTop = rows.top + top - frame.top;
   MoveTo(list, rows.left, rowsTop, rows.right - rows.left, buttonsTop - kAboveButtons - rowsTop);
+  FitToolTip(stretchedTip_, list);
 }
 
 }  // namespace tarnwick

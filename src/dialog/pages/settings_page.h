@@ -3,6 +3,7 @@
 
 #include <array>
 #include <list>
+#include <vector>
 #include <memory>
 
 #include "controls/color_swatch.h"
@@ -57,6 +58,9 @@ class SettingsPage {
   void MakeRow(const ControlRow& row);
   void SkinButton(int id, std::array<int, 6> art);
   void AddTips(const ControlRow& row);
+  void AddPresetTips();
+  void KeepWidths();
+  void FitAcross(int width);
   void Stretch();
 
   // page_filmstrip.cpp
@@ -84,7 +88,7 @@ class SettingsPage {
   void CommitLight(const ControlRow& row, int editId);
   void CommitOffset(const ControlRow& row, int editId);
   void DragOffset(const ControlRow& row);
-  void MoveOffsetTo(TextureOffset wanted);
+  void MoveOffsetTo(OffsetPoint wanted);
   void ClickLink();
   bool OfferLink(const TextureMatches& matches);
   [[nodiscard]] std::string TextOf(int id) const;
@@ -101,6 +105,16 @@ class SettingsPage {
   // Of the skinned buttons, whose windows look into them.
   std::list<ImageButtonState> skins_;
   std::unique_ptr<TFilmstripControl> film_;  // on the background page
+  HWND stretchedTip_ = nullptr;  // of the list that stretches
+
+  // How far the controls reach, and the page, as the template has them.
+  struct Across {
+    HWND window;
+    int left, right;
+  };
+  std::vector<Across> across_;
+  int templateWidth_ = 0;
+  int width_ = 0;  // that the controls are laid out for
   // A click on an up-down has been, and its work waits for the next ones.
   const ControlRow* spinRow_ = nullptr;
   UINT_PTR spinTimer_ = 0;
