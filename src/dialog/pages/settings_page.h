@@ -3,8 +3,8 @@
 
 #include <array>
 #include <list>
-#include <vector>
 #include <memory>
+#include <vector>
 
 #include "controls/color_swatch.h"
 #include "controls/image_button.h"
@@ -105,7 +105,7 @@ class SettingsPage {
   // Of the skinned buttons, whose windows look into them.
   std::list<ImageButtonState> skins_;
   std::unique_ptr<TFilmstripControl> film_;  // on the background page
-  HWND stretchedTip_ = nullptr;  // of the list that stretches
+  HWND stretchedTip_ = nullptr;              // of the list that stretches
 
   // How far the controls reach, and the page, as the template has them.
   struct Across {
