@@ -63,9 +63,11 @@ TEST(HelpViewer, OpensOnAThreadOfItsOwnForTheOwner) {
   viewer.OpenHelp(778);
   ASSERT_TRUE(Soon([&] { return !viewer.IsRunning(); }));
   viewer.OpenHelp(0);
+  ASSERT_TRUE(Soon([&] { return !viewer.IsRunning(); }));
+  viewer.OpenFile("C:\\Terms.txt");
   viewer.Stop();
-  EXPECT_THAT(shell.Opened(),
-              ElementsAre("C:\\Data\\Help\\wash.html", "C:\\Data\\Help\\index.html"));
+  EXPECT_THAT(shell.Opened(), ElementsAre("C:\\Data\\Help\\wash.html", "C:\\Data\\Help\\index.html",
+                                          "C:\\Terms.txt"));
   EXPECT_EQ(shell.Owner(), owner);
   EXPECT_NE(shell.Thread(), GetCurrentThreadId());
 }
