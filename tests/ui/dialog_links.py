@@ -447,8 +447,16 @@ def cross_of(ball, offset):
             height // 2 - round(radius * up * share / 100))
 
 
+def rest(page):
+    """The pointer lies on the pane, and no tip lies on that or on a button."""
+    page.screen.move(*page.dialog[1002].place())
+    wait_for(lambda: not any(one.visible for one in page.dialog.program.windows()
+                             if one.class_name == "tooltips_class32"), "a tip stays")
+
+
 def wait_offset(page, offset):
     """Fields, ball and pane show it."""
+    rest(page)
     page[FIELD_X].wait_text(str(offset[0]))
     page[FIELD_Y].wait_text(str(offset[1]))
     ball = page[BALL]

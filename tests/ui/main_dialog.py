@@ -18,6 +18,7 @@ import dialog_preset_saving  # noqa: F401
 import dialog_presets  # noqa: F401
 import dialog_preview  # noqa: F401
 import dialog_strip  # noqa: F401
+import dialog_values  # noqa: F401
 from host_run import HostRun
 from scenarios import equal, near, run, scenario
 from screen import wait_for
