@@ -29,12 +29,6 @@ void WindowObject::AttachTo(HWND target) {
   }
 }
 
-TDrawerWindow::~TDrawerWindow() {
-  const HWND own = window;
-  AttachTo(nullptr);
-  if (own != nullptr && IsWindow(own)) DestroyWindow(own);
-}
-
 LRESULT CALLBACK PickerProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   return Dispatch(window, message, wParam, lParam);
 }

@@ -1,6 +1,10 @@
 #pragma once
 #include <windows.h>
 
+#include <functional>
+
+#include "controls/models/drawer_slide.h"
+
 namespace tarnwick {
 
 // Controls that are objects: the window finds its object in its user data and
@@ -30,8 +34,31 @@ class TPickerControl : public WindowObject {
 class TDrawerWindow : public WindowObject {
  public:
   ~TDrawerWindow() override;
+
+  // A hidden child of `parent`; then calls OnCreated. False when it cannot be made.
+  bool Create(HWND parent, int left, int top, int w, int h, int windowId);
   // At the end of the window's creation.
   virtual void OnCreated() {}
+  LRESULT WindowProc(HWND target, UINT message, WPARAM wParam, LPARAM lParam) override;
+
+  // Comes in from the left to its place, if it is not to be seen yet; goes out there
+  // again, and calls `closed` then.
+  void SlideIn();
+  void SlideOut();
+  // Another place and size, from now on. One that slides goes on from there.
+  void MoveTo(int left, int top, int w, int h);
+  [[nodiscard]] bool IsSliding() const { return !slide_.IsStill(); }
+
+  HWND owner = nullptr;
+  int x = 0, y = 0, width = 0, height = 0;  // in the owner
+  int id = 0;
+  HBITMAP panelBitmap = nullptr;  // behind all that is in it; not owned
+  std::function<void()> closed;
+
+ private:
+  void SlideOn();
+
+  DrawerSlide slide_;
 };
 
 // Controls that a template holds. Does not own its window.

@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "dialog/bitmap_set.h"
+#include "dialog/drawers/dialog_drawers.h"
 #include "dialog/edits/setting_edits.h"
 #include "dialog/effect_tabs.h"
 #include "dialog/help_viewer.h"
@@ -74,6 +75,7 @@ class MainDialog {
   void FindFrame();
   void MakeTabs();
   void MakePages();
+  void MakeDrawers();
   void MakeOptions();
   void ShowOptions();
   void EnableOptions();
@@ -96,7 +98,7 @@ class MainDialog {
   // main_dialog_commands.cpp
   INT_PTR Command(WPARAM wParam, LPARAM lParam);
   void Ok(WORD notification);
-  void Cancel();
+  void Cancel(bool isByKey);
   void Zoom(int command);
   void PanEnded();
   void MoveOffset(int dx, int dy);
@@ -154,6 +156,7 @@ class MainDialog {
   std::unique_ptr<SettingEdits> edits_;
   std::unique_ptr<PresetLibrary> presets_;
   std::unique_ptr<SettingsPages> pages_;
+  std::unique_ptr<DialogDrawers> drawers_;
   AutoDice dice_;
   DrawerLists drawerLists_;
   bool hasPlayed_ = false;  // the sound of Auto, which may still play

@@ -38,7 +38,6 @@ void ClearHover(HWND window) {
 }  // namespace
 
 INT_PTR MainDialog::Command(WPARAM wParam, LPARAM lParam) {
-  (void)lParam;
   const int id = LOWORD(wParam);
   const WORD notification = HIWORD(wParam);
   for (std::size_t i = 0; i < kNewLayerOptions.size(); ++i) {
@@ -47,12 +46,14 @@ INT_PTR MainDialog::Command(WPARAM wParam, LPARAM lParam) {
   }
   if (id >= kViewComposite && id <= kDeleteWashOne) return ChooseInStrip(id), TRUE;
   if (id >= kResetAll && id <= kResetBackground) return ResetPressed(), TRUE;
+  if (drawers_ && drawers_->Command(id, notification)) return TRUE;
   switch (id) {
     case IDOK:
       Ok(notification);
       break;
     case IDCANCEL:
-      Cancel();
+      // The box in the title bar has no control to name.
+      Cancel(lParam != 0);
       break;
     case kZoomIn:
     case kZoomOut:
@@ -88,7 +89,7 @@ INT_PTR MainDialog::Command(WPARAM wParam, LPARAM lParam) {
 
 // Enter in a value field commits that field: the focus goes on.
 void MainDialog::Ok(WORD notification) {
-  if (notification != 0) return;
+  if (notification != 0 || (drawers_ && drawers_->Accept())) return;
   const HWND focus = GetFocus();
   if (IsEdit(focus)) {
     PostMessageA(GetParent(focus), WM_NEXTDLGCTL, 0, 0);
@@ -97,8 +98,10 @@ void MainDialog::Ok(WORD notification) {
   }
 }
 
-// Escape in a value field undoes the typing: its page knows how.
-void MainDialog::Cancel() {
+// Escape closes a drawer first. In a value field it undoes the typing: its page knows
+// how.
+void MainDialog::Cancel(bool isByKey) {
+  if (isByKey && drawers_ && drawers_->Cancel()) return;
   const HWND focus = GetFocus();
   if (IsEdit(focus)) {
     SendMessageA(GetParent(focus), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(focus), kEditCancelled),

@@ -62,6 +62,7 @@ void MainDialog::Place() {
     }
   }
   if (pages_) pages_->Place(PagePlace());
+  if (drawers_) drawers_->Move(layout_.drawer);
   // As wide as the pane, which is rounded up.
   strips_.SetWidth(layout_.pane.width);
   stripFrame_.previewRight = layout_.previewRight;
@@ -72,6 +73,7 @@ void MainDialog::Place() {
 
 // The picture follows when the frame is let go, not while it is dragged.
 void MainDialog::Resized() {
+  if (drawers_) drawers_->Relayout();
   const PaneSize pane = PaneNow();
   if (!preview_ || !preview_->FitProxyToPane(pane)) return;
   SetZoomButtons(preview_->Resized(pane));

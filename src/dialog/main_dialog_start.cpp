@@ -132,6 +132,7 @@ void MainDialog::Start() {
   AddTips();
   OpenPreview();
   cancelSnapshot_ = lastUsedSnapshot_ = settings;
+  MakeDrawers();
   isStarted_ = true;
   LookForNews();
 }
@@ -201,9 +202,29 @@ void MainDialog::MakePages() {
                                                        [this] { EndDialog(window_, IDCANCEL); },
                                                        [this] { Fail(); },
                                                        {},
-                                                       [](int) {},
-                                                       [](int) {}});
+                                                       [this](int tab) {
+                                                         if (drawers_) drawers_->OpenTextures(tab);
+                                                       },
+                                                       [this](int tab) {
+                                                         if (drawers_) drawers_->OpenColors(tab);
+                                                       }});
   pages_->Select(views_.currentTab, PagePlace());
+}
+
+void MainDialog::MakeDrawers() {
+  drawers_ = std::make_unique<DialogDrawers>(
+      g_, views_, *preview_, *presets_,
+      DialogDrawerHooks{[this](bool isBusy) { SetBusy(isBusy); },
+                        [this] {
+                          if (pages_ && pages_->Current() != nullptr) {
+                            pages_->Current()->TextureChosen();
+                          }
+                        },
+                        [this] { UpdatePage(PageUpdate::kShowSettings); },
+                        [this] { SendMessageA(window_, WM_COMMAND, kSettingsChanged, 0); },
+                        [this] { Fail(); }});
+  drawers_->Create(window_, bar_.window, strips_.Shade(), layout_.drawer);
+  drawerLists_ = drawers_->Lists();
 }
 
 void MainDialog::EnableOptions() {
@@ -288,6 +309,7 @@ void MainDialog::Finish() {
     settings.WindowHeight = place.bottom - place.top;
   }
   pane_ = nullptr;
+  drawers_.reset();
   pages_.reset();
   presets_.reset();
   edits_.reset();

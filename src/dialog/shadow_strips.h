@@ -15,6 +15,8 @@ class ShadowStrips {
   // there leaves the strips black.
   void LoadShade(HBITMAP bitmap);
 
+  [[nodiscard]] const StripShade& Shade() const { return shade_; }
+
   // For another width of the pane's frame.
   void SetWidth(int width);
 
