@@ -16,10 +16,10 @@ float CellStep(int documentWidth) {
 
 std::vector<std::ptrdiff_t> CentredPlaces(int side, int points, float step) {
   const int sampled = TruncateToInt(static_cast<float>(points) * step);
-  const auto offset = static_cast<float>((side - sampled) / 2);
+  const int offset = (side - sampled) / 2;
   std::vector<std::ptrdiff_t> places(static_cast<std::size_t>(points));
   for (int i = 0; i < points; ++i) {
-    const int at = TruncateToInt(static_cast<float>(i) * step + offset);
+    const int at = TruncateToInt(static_cast<float>(i) * step + static_cast<float>(offset));
     places[static_cast<std::size_t>(i)] = std::clamp(at, 0, side - 1);
   }
   return places;
