@@ -134,11 +134,13 @@ class HostRun:
 
 
 class Dialog:
-    def __init__(self, run):
+    def __init__(self, run, others=()):
+        """The keys go to it, or to one of the others' windows, by their titles."""
         self.run, self.screen, self.program = run, run.screen, run.program
         self.window = self.program.window("Tarnwick Studio")
         self.tab_places = {}
-        wait_for(lambda: self.screen.focused() == "Tarnwick Studio", "the dialog gets no keys")
+        wait_for(lambda: self.screen.focused() in ("Tarnwick Studio", *others),
+                 lambda: f"the keys go to {self.screen.focused()!r}")
         self.look()
 
     def look(self):
@@ -163,9 +165,10 @@ class Dialog:
         """Brings up a page by a click on its tab."""
         tabs = self[999]
         captions = tabs.session.ask("tabs", tabs.number)
-        # Tabs are as wide as their captions; the clicks go along them, once.
-        known = self.tab_places.get(index)
-        for x in range(10, tabs.size[0], 8) if known is None else [known]:
+        # Tabs are as wide as their captions; the clicks go along them, but begin with
+        # the place that was found. More than once: a tip may lie on it and take a press.
+        known = [self.tab_places[index]] * 3 if index in self.tab_places else []
+        for x in known + list(range(10, tabs.size[0], 8)):
             if tabs.send(0x130B) == index:
                 break
             self.screen.click(*tabs.place(x, 8))
