@@ -144,7 +144,10 @@ class Dialog:
         self.look()
 
     def look(self):
-        self.items = {child.id: child for child in self.window.look().children()}
+        # Numbers come again on pages and in drawers, which lie behind the dialog's own.
+        self.items = {}
+        for child in self.window.look().children():
+            self.items.setdefault(child.id, child)
         return self
 
     def __getitem__(self, number):
