@@ -144,10 +144,12 @@ class Dialog:
         self.look()
 
     def look(self):
-        # Numbers come again on pages and in drawers, which lie behind the dialog's own.
-        self.items = {}
-        for child in self.window.look().children():
-            self.items.setdefault(child.id, child)
+        children = self.window.look().children()
+        self.items = {child.id: child for child in children}
+        # Numbers come again on pages and in drawers: the dialog's own are meant.
+        boxes = [child for child in children if child.class_name in ("#32770", "DexDrawerClass")]
+        inner = {child.number for box in boxes for child in box.children()}
+        self.items.update({child.id: child for child in children if child.number not in inner})
         return self
 
     def __getitem__(self, number):
