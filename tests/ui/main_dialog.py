@@ -10,7 +10,8 @@ import os
 import shutil
 import subprocess
 
-import dialog_help  # noqa: F401  more scenarios
+import dialog_filmstrip  # noqa: F401  more scenarios
+import dialog_help  # noqa: F401
 import dialog_links  # noqa: F401
 import dialog_options  # noqa: F401
 import dialog_pages  # noqa: F401
