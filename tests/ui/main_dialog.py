@@ -10,9 +10,11 @@ import os
 import shutil
 import subprocess
 
-import dialog_filmstrip  # noqa: F401  more scenarios
+import dialog_about  # noqa: F401  more scenarios
+import dialog_auto  # noqa: F401
 import dialog_help  # noqa: F401
 import dialog_links  # noqa: F401
+import dialog_news  # noqa: F401
 import dialog_options  # noqa: F401
 import dialog_pages  # noqa: F401
 import dialog_preset_saving  # noqa: F401
