@@ -97,22 +97,6 @@ def a_click_applies_a_look(run):
 
 
 @scenario()
-def a_look_is_no_last_used_setting(run):
-    """What was made by hand comes back after it."""
-    put_looks(run)
-    dialog = run.open(width=400, height=300, after=expectations({"BackgroundHue": 7}) + [
-        "expect setting BackgroundShadowColor 7780"])
-    strip = Strip(dialog)
-    strip.page.type(1327, "7")
-    wait_for(lambda: strip.page[1327].look().text == "7", "the hue stays")
-    strip.page.click(strip.window, *strip.place(1))
-    wait_for(lambda: strip.page[1327].look().text == "0", "the look is not applied")
-    page = Page(dialog, 0)
-    page.click(page[1084], 20, 24)
-    dialog.ok()
-
-
-@scenario()
 def arrows_slide_to_the_sixth(run):
     put_looks(run)
     dialog = run.open(width=400, height=300, after=["expect error -128", "expect untouched"])
@@ -137,8 +121,8 @@ def arrows_slide_to_the_sixth(run):
 
 
 @scenario()
-def a_press_that_slides_no_longer_applies_nothing(run):
-    """Press after press beside a slide: what is recorded is what was in sight."""
+def the_second_page_is_applied(run):
+    """And where no name is, a press does nothing."""
     put_looks(run)
     dialog = run.open(width=400, height=300, after=expectations({}) + [
         f"expect setting BackgroundShadowColor {SHADOWS['Elm']}"])
@@ -147,7 +131,6 @@ def a_press_that_slides_no_longer_applies_nothing(run):
     strip.wait_arrows(True, False)
     strip.page.click(strip.window, *strip.place(0))
     wait_for(lambda: strip.page[1049].at() == (0, 255, 255), "the sixth is not applied")
-    # Where no name is.
     strip.page.click(strip.window, *strip.place(1))
     dialog.ok()
 
