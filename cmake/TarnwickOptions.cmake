@@ -19,7 +19,11 @@ if(NOT CMAKE_BUILD_TYPE)
   set(CMAKE_BUILD_TYPE RelWithDebInfo)
 endif()
 # Assertions stay on in every build but the released one.
-set(CMAKE_CXX_FLAGS_RELWITHDEBINFO "-O3 -g")
+set(CMAKE_CXX_FLAGS_RELWITHDEBINFO "-O3 -g1")
+if(TARNWICK_SANITIZE)
+  # Compiled in half the time; more than lines is in no report of a sanitizer.
+  set(CMAKE_CXX_FLAGS_RELWITHDEBINFO "-O1 -g1")
+endif()
 
 add_library(tarnwick_options INTERFACE)
 target_compile_options(tarnwick_options INTERFACE
