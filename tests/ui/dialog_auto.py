@@ -86,7 +86,8 @@ def look_of(now, textures):
     dice.below(1)
     is_whole = False
     if dice.below(100) < 33:
-        dice.below(1)  # one of one file
+        dice.below(1)  # one of one folder
+        dice.below(1)  # and of one file in it
         look.update(BASIC)
         is_whole = dice.below(100) < 33
     if not is_whole:
