@@ -12,6 +12,7 @@ import subprocess
 
 import dialog_about  # noqa: F401  more scenarios
 import dialog_auto  # noqa: F401
+import dialog_filmstrip  # noqa: F401
 import dialog_help  # noqa: F401
 import dialog_links  # noqa: F401
 import dialog_news  # noqa: F401
