@@ -6,6 +6,7 @@ namespace tarnwick {
 namespace {
 
 constexpr int kFilmstrip = 1157;
+constexpr int kColorGroup = 2121;
 
 }  // namespace
 
@@ -26,9 +27,13 @@ bool SettingsPage::PlaceFilmstrip(int& bottom) {
   RECT place{};
   GetWindowRect(film_->window, &place);
   MapWindowPoints(nullptr, window_, reinterpret_cast<POINT*>(&place), 2);
-  RECT client{};
+  RECT client{}, group{};
   GetClientRect(window_, &client);
-  film_->Place(place.top, client.right);
+  GetWindowRect(Item(kColorGroup), &group);
+  // In the middle below the groups, which are narrower than the page; if it is wider than
+  // they are, in all the room there is.
+  const int groupWidth = static_cast<int>(group.right - group.left);
+  film_->Place(place.top, groupWidth >= kFilmWidth ? groupWidth : client.right);
   bottom = place.top + kFilmHeight;
   return true;
 }
