@@ -161,7 +161,7 @@ class MainDialog {
   DrawerLists drawerLists_;
   bool hasPlayed_ = false;  // the sound of Auto, which may still play
   std::unique_ptr<HelpViewer> help_;
-  std::unique_ptr<NewsCheck> news_;  // while it runs
+  std::unique_ptr<NewsCheck> news_;   // while it runs
   TPreviewContaner* pane_ = nullptr;  // its window's
   BitmapSet bitmaps_;
   ShadowStrips strips_;
