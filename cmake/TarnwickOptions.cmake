@@ -63,6 +63,19 @@ function(tarnwick_precompile)
   endforeach()
 endfunction()
 
+# The same for the windows, whose sources all read windows.h; with GCC too, which has
+# nothing to warn of there.
+function(tarnwick_precompile_windows)
+  if(NOT TARNWICK_PCH)
+    return()
+  endif()
+  foreach(target ${ARGN})
+    target_precompile_headers(${target} PRIVATE
+      <windows.h> <algorithm> <array> <cstdint> <functional> <memory> <optional> <string>
+      <string_view> <vector>)
+  endforeach()
+endfunction()
+
 # The sources of one folder: platform halves end in _win.cpp and _posix.cpp.
 function(tarnwick_sources out)
   set(found)

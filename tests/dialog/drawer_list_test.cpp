@@ -155,10 +155,10 @@ TEST(DrawerPlaces, HoldAsManyRowsAsFit) {
   EXPECT_EQ(buttons.select, (Place{231, 543, 116, 38}));
 }
 
-// Each move of a panel 390 wide, until the tick that ends it.
+// Each move of a panel 512 wide, until the tick that ends it.
 std::vector<int> Moves(DrawerSlide& slide) {
   std::vector<int> moves;
-  for (DrawerSlide::Step step = slide.Tick(390); step.isMove; step = slide.Tick(390)) {
+  for (DrawerSlide::Step step = slide.Tick(512); step.isMove; step = slide.Tick(512)) {
     moves.push_back(step.shift);
     EXPECT_EQ(step.isLast, moves.size() == 11);
     if (moves.size() > 20) break;
@@ -168,14 +168,14 @@ std::vector<int> Moves(DrawerSlide& slide) {
 
 TEST(DrawerSlide, TakesElevenMovesEachWay) {
   DrawerSlide slide;
-  EXPECT_FALSE(slide.Tick(390).isMove);
+  EXPECT_FALSE(slide.Tick(512).isMove);
   slide.StartIn();
   EXPECT_EQ(Moves(slide),
-            (std::vector<int>{-390, -351, -312, -273, -234, -195, -156, -117, -78, -39, 0}));
+            (std::vector<int>{-512, -460, -409, -358, -307, -256, -204, -153, -102, -51, 0}));
   EXPECT_TRUE(slide.IsStill());
   slide.StartOut();
   EXPECT_EQ(Moves(slide),
-            (std::vector<int>{0, -39, -78, -117, -156, -195, -234, -273, -312, -351, -390}));
+            (std::vector<int>{0, -51, -102, -153, -204, -256, -307, -358, -409, -460, -512}));
   EXPECT_TRUE(slide.IsStill());
 }
 
