@@ -233,7 +233,10 @@ void MainDialog::SetZoomButtons(ZoomButtons buttons) {
   // A disabled control would keep the keys to itself, Enter and Escape among them.
   if (focus != nullptr &&
       ((focus == zoomIn && !buttons.canZoomIn) || (focus == zoomOut && !buttons.canZoomOut))) {
-    SendMessageA(window_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Item(IDOK)), TRUE);
+    // OK is of no use either while a drawer is open.
+    if (!drawers_ || !drawers_->TakeFocus()) {
+      SendMessageA(window_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Item(IDOK)), TRUE);
+    }
   }
   EnableWindow(zoomIn, buttons.canZoomIn ? TRUE : FALSE);
   EnableWindow(zoomOut, buttons.canZoomOut ? TRUE : FALSE);

@@ -123,10 +123,21 @@ void DialogDrawers::Open(TDrawerPicker& drawer) {
 // The page can be used again, from where it was left.
 void DialogDrawers::Closed() {
   hooks_.setBusy(false);
+  GiveFocusBack();
+}
+
+// Behind a box that asks something nothing takes the keys: then it is due after that.
+void DialogDrawers::GiveFocusBack() {
+  if (focusBefore_ == nullptr || OpenOne() != nullptr) return;
+  if (IsWindowEnabled(textures_->owner) == FALSE) return;
   const HWND focus = std::exchange(focusBefore_, nullptr);
-  if (focus != nullptr && IsWindowVisible(focus) != FALSE && IsWindowEnabled(focus) != FALSE) {
-    SetFocus(focus);
-  }
+  if (IsWindowVisible(focus) != FALSE && IsWindowEnabled(focus) != FALSE) SetFocus(focus);
+}
+
+bool DialogDrawers::TakeFocus() {
+  TDrawerPicker* const drawer = OpenOne();
+  if (drawer != nullptr) SetFocus(drawer->window);
+  return drawer != nullptr;
 }
 
 void DialogDrawers::OpenTextures(int tab) {
@@ -194,6 +205,7 @@ void DialogDrawers::TextureTold(WORD notification) {
   if (work.textureChosen) hooks_.textureChosen();
   if (work.settingsChanged) hooks_.settingsChanged();
   if (work.clearProgress) bar_.Report(0, 0);
+  if (work.closeDrawer) GiveFocusBack();
 }
 
 void DialogDrawers::ColorTold(WORD notification) {

@@ -55,6 +55,9 @@ class DialogDrawers {
   bool Accept();
   bool Cancel();
 
+  // To the open one; false while none is open.
+  bool TakeFocus();
+
   // Along with the dialog; the cells follow with Relayout, once it has its size.
   void Move(const Place& place);
   void Relayout();
@@ -72,6 +75,7 @@ class DialogDrawers {
   void MakePanel(const Place& place);
   void Open(TDrawerPicker& drawer);
   void Closed();
+  void GiveFocusBack();
   [[nodiscard]] TDrawerPicker* OpenOne();
   void TextureTold(WORD notification);
   void ColorTold(WORD notification);
