@@ -89,7 +89,8 @@ void TDrawerWindow::MoveTo(int left, int top, int w, int h) {
   width = w;
   height = h;
   if (window == nullptr) return;
-  SetWindowPos(window, nullptr, left, top, w, h, SWP_NOZORDER | SWP_NOACTIVATE);
+  // What lies below may have come up in being moved itself.
+  SetWindowPos(window, HWND_TOP, left, top, w, h, SWP_NOACTIVATE);
 }
 
 }  // namespace tarnwick
