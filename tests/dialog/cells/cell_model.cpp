@@ -73,7 +73,7 @@ std::vector<double> CellModel::Backdrop() const {
       // Kept as bytes, truncated in 32 bits: 204 on the grid of 204 can lose one.
       for (const int channel : point.channels) {
         const float mixed = static_cast<float>(channel) * a + grid * (1 - a);
-        values.push_back(point.alpha == 255 ? channel : std::floor(mixed));
+        values.push_back(point.alpha == 255 ? static_cast<float>(channel) : std::floor(mixed));
       }
     }
   }
