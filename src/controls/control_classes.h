@@ -16,6 +16,8 @@ inline constexpr char kPreviewClass[] = "Preview Contaner CPP";
 inline constexpr char kSwatchClass[] = "Contaner Color CPP";
 inline constexpr char kLinkClass[] = "ContainerLinkC";
 inline constexpr char kDrawerClass[] = "DexDrawerClass";
+// Not one of those below: there as long as the full-size picker is.
+inline constexpr char kPickerClass[] = "Picker Class";
 
 // Registers all classes for the module, before a dialog that names them is made,
 // and takes them away after it. False when one of them cannot be registered; the

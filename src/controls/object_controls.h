@@ -1,6 +1,7 @@
 #pragma once
 #include <windows.h>
 
+#include <cstdint>
 #include <functional>
 
 #include "controls/models/drawer_slide.h"
@@ -28,6 +29,20 @@ class WindowObject {
 class TPickerControl : public WindowObject {
  public:
   ~TPickerControl() override { AttachTo(nullptr); }
+
+  // A visible child of "Picker Class", or a child that is in the dialog already; false
+  // where there is none. `kind` is the owner's own.
+  bool Create(HWND parent, int windowId, std::uint8_t windowKind, int left, int top, int w, int h,
+              DWORD exStyle);
+  bool Attach(HWND dialog, int windowId, std::uint8_t windowKind);
+
+  int id = 0;
+  std::uint8_t kind = 0;
+  int width = 0, height = 0;
+  RECT client{};
+
+ private:
+  bool Take(HWND control, int windowId, std::uint8_t windowKind);
 };
 
 // Panels that slide over the dialog, and what is in them. Owns its window.

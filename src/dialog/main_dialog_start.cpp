@@ -207,6 +207,9 @@ void MainDialog::MakePages() {
                                                        },
                                                        [this](int tab) {
                                                          if (drawers_) drawers_->OpenColors(tab);
+                                                       },
+                                                       [this](int tab) {
+                                                         if (drawers_) drawers_->OpenFullSize(tab);
                                                        }});
   pages_->Select(views_.currentTab, PagePlace());
 }

@@ -9,7 +9,9 @@
 #include "base/native_path.h"
 #include "dialog/drawers/drawer_ids.h"
 #include "dialog/edits/active_effect.h"
+#include "dialog/edits/detail_look.h"
 #include "dialog/models/drawer_panel.h"
+#include "dialog/picker/texture_picker.h"
 #include "textures/texture_set_table.h"
 #include "textures/texture_thumbnail.h"
 
@@ -36,10 +38,11 @@ std::string NameOf(const LayerSlot& slot) {
 
 }  // namespace
 
-DialogDrawers::DialogDrawers(FilterGlobals& g, const EffectViews& views, const LivePreview& preview,
+DialogDrawers::DialogDrawers(FilterGlobals& g, const EffectViews& views, LivePreview& preview,
                              PresetLibrary& presets, DialogDrawerHooks hooks)
     : g_(g),
       views_(views),
+      preview_(preview),
       presets_(presets),
       hooks_(std::move(hooks)),
       texture_(*g.gParams, g.layers, g.render, views),
@@ -63,12 +66,10 @@ void DialogDrawers::Bar::Report(int done, int total) {
 }
 
 void DialogDrawers::Create(HWND owner, HWND bar, const StripShade& shade, const Place& place) {
+  owner_ = owner;
   bar_.window = bar;
   shade_ = shade;
   MakePanel(place);
-  TextureSetTable sets;
-  std::vector<SetTableFault> faults;  // lines of a table that say nothing are passed over
-  (void)LoadTextureSets(PathOfName(g_.folders.dataFolder) / kTextureSetFile, sets, faults);
   textures_ = std::make_unique<TDrawerPicker>(DrawerMode::kTextures);
   colors_ = std::make_unique<TDrawerPicker>(DrawerMode::kColors);
   for (TDrawerPicker* const drawer : {textures_.get(), colors_.get()}) {
@@ -84,12 +85,19 @@ void DialogDrawers::Create(HWND owner, HWND bar, const StripShade& shade, const 
   laidHeight_ = place.height;
   // One that cannot be made stays out.
   if (textures_->Create(owner, place.x, place.y, place.width, place.height, kTextureDrawer)) {
-    textures_->SetSets(std::move(sets));
+    textures_->SetSets(TextureSets());
     textures_->OpenList(NameOf(WashSlot(g_.layers, *g_.gParams, false)), g_.folders.dataFolder);
   }
   if (colors_->Create(owner, place.x, place.y, place.width, place.height, kColorDrawer)) {
     colors_->OpenList({}, g_.folders.colorFolder);
   }
+}
+
+TextureSetTable DialogDrawers::TextureSets() const {
+  TextureSetTable sets;
+  std::vector<SetTableFault> faults;  // lines of a table that say nothing are passed over
+  (void)LoadTextureSets(PathOfName(g_.folders.dataFolder) / kTextureSetFile, sets, faults);
+  return sets;
 }
 
 void DialogDrawers::MakePanel(const Place& place) {
@@ -144,6 +152,13 @@ void DialogDrawers::OpenTextures(int tab) {
   if (!textures_ || textures_->window == nullptr || OpenOne() != nullptr) return;
   const std::string name = texture_.Open(tab);
   if (!texture_.IsOpen()) return;
+  PrepareCells(tab);
+  Open(*textures_);
+  textures_->OpenList(name, g_.folders.dataFolder);
+}
+
+// For the effect that `texture_` is open for.
+void DialogDrawers::PrepareCells(int tab) {
   const EffectSettings& settings = *g_.gParams;
   cellPreview_.MakeBackdrop();
   if (texture_.Kind() == LayerKind::kWash) cellPreview_.MakeBackgroundStage();
@@ -153,8 +168,39 @@ void DialogDrawers::OpenTextures(int tab) {
     const std::int32_t depth = isSecond ? settings.SurfaceDepth2 : settings.SurfaceDepth1;
     cellPreview_.SetReliefFactor(static_cast<float>(depth) / kFullRelief);
   }
-  Open(*textures_);
-  textures_->OpenList(name, g_.folders.dataFolder);
+}
+
+void DialogDrawers::OpenFullSize(int tab) {
+  if (OpenOne() != nullptr) return;
+  const std::string name = texture_.Open(tab);
+  if (!texture_.IsOpen()) return;
+  const LayerKind kind = texture_.Kind();
+  TPicker picker;
+  picker.kind = kind;
+  picker.helpFolder = g_.folders.helpFolder;
+  picker.sets = TextureSets();
+  picker.Build(g_.folders.dataFolder, ScanTextureNames(PathOfName(g_.folders.dataFolder)), {},
+               picker.sets);
+  picker.hooks = {[&](ThumbnailSize size) {
+                    // What is missing is told over the picker.
+                    g_.ownerWindow = picker.dialog;
+                    cellPreview_.SetSize(size);
+                    PrepareCells(tab);
+                  },
+                  [&](ThumbnailPicture& picture) {
+                    return cellPreview_.Preview(CellTargetOf(kind), views_, picture);
+                  },
+                  [&](const std::string& tried, ThumbnailSize size) {
+                    return LookAtTexture(g_, preview_, views_, kind, tried, size);
+                  },
+                  hooks_.fail};
+  (void)OpenTexturePicker(name.c_str(), owner_, &picker);
+  g_.ownerWindow = owner_;
+  // The drawers count on their own size.
+  cellPreview_.SetSize(kDrawerThumbnail);
+  if (!picker.isAccepted) return DoTextureWork(texture_.Cancel());
+  if (picker.selectedName != name) DoTextureWork(texture_.Try(picker.selectedName));
+  DoTextureWork(texture_.Accept(picker.selectedName));
 }
 
 void DialogDrawers::OpenColors(int tab) {
@@ -198,10 +244,12 @@ void DialogDrawers::TextureTold(WORD notification) {
   } else {
     work = texture_.Try(name);
   }
-  if (work.closeDrawer) {
-    cellPreview_.FreeBackgroundStage();
-    textures_->Close();
-  }
+  if (work.closeDrawer) textures_->Close();
+  DoTextureWork(work);
+}
+
+void DialogDrawers::DoTextureWork(const TextureWork& work) {
+  if (work.closeDrawer) cellPreview_.FreeBackgroundStage();
   if (work.textureChosen) hooks_.textureChosen();
   if (work.settingsChanged) hooks_.settingsChanged();
   if (work.clearProgress) bar_.Report(0, 0);

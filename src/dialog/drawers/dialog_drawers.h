@@ -29,12 +29,13 @@ struct DialogDrawerHooks {
   std::function<void()> fail;             // inside a handler of what was thrown
 };
 
-// The two drawers of the dialog, what they apply to, and the panel behind them. One of
-// them at most is open; the rest of the dialog is busy then.
+// The two drawers of the dialog, what they apply to, and the panel behind them; and the
+// full-size picker, which puts a texture in as they do. One of them at most is open; the
+// rest of the dialog is busy then.
 class DialogDrawers {
  public:
   // Owns none; all outlive it. `preview` has been opened by then.
-  DialogDrawers(FilterGlobals& g, const EffectViews& views, const LivePreview& preview,
+  DialogDrawers(FilterGlobals& g, const EffectViews& views, LivePreview& preview,
                 PresetLibrary& presets, DialogDrawerHooks hooks);
   ~DialogDrawers();
   DialogDrawers(const DialogDrawers&) = delete;
@@ -47,6 +48,8 @@ class DialogDrawers {
   // For the effect of the page of this tab. Where it has none, nothing happens.
   void OpenTextures(int tab);
   void OpenColors(int tab);
+  // Modal; done when it returns.
+  void OpenFullSize(int tab);
 
   // What a drawer tells; false for other ids.
   bool Command(int id, WORD notification);
@@ -73,6 +76,9 @@ class DialogDrawers {
   };
 
   void MakePanel(const Place& place);
+  [[nodiscard]] TextureSetTable TextureSets() const;
+  void PrepareCells(int tab);
+  void DoTextureWork(const TextureWork& work);
   void Open(TDrawerPicker& drawer);
   void Closed();
   void GiveFocusBack();
@@ -83,6 +89,7 @@ class DialogDrawers {
 
   FilterGlobals& g_;
   const EffectViews& views_;
+  LivePreview& preview_;
   PresetLibrary& presets_;
   DialogDrawerHooks hooks_;
   TextureTarget texture_;
@@ -91,6 +98,7 @@ class DialogDrawers {
   std::optional<ThumbnailPicture> colorSource_;  // grey, of the texture that is coloured
   Bar bar_;
   StripShade shade_{};
+  HWND owner_ = nullptr;
   HBITMAP panel_ = nullptr;
   int laidHeight_ = 0;  // that the cells are made for
   HWND focusBefore_ = nullptr;

@@ -9,6 +9,7 @@
 #include "dialog/dialog_commands.h"
 #include "dialog/models/page_values.h"
 #include "dialog/pages/link_offer.h"
+#include "dialog/pages/name_field.h"
 #include "dialog/pages/settings_page.h"
 #include "dialog/presets/preset_library.h"
 
@@ -133,6 +134,8 @@ bool SettingsPage::RowCommand(const ControlRow& row, int id, WORD notification) 
       }
       break;
     case RowKind::kTexture:
+      if (notification == kNameDoubleClicked) context_.openFullSize(tab_);
+      break;
     case RowKind::kColors:
       break;
   }

@@ -34,6 +34,8 @@ struct PageContext {
   // The drawers, for the effect of the page.
   std::function<void(int tab)> openTextures;
   std::function<void(int tab)> openColors;
+  // The full-size picker of textures.
+  std::function<void(int tab)> openFullSize;
 };
 
 }  // namespace tarnwick

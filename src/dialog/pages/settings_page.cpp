@@ -11,6 +11,7 @@
 #include "controls/tool_tip.h"
 #include "dialog/models/effect_views.h"
 #include "dialog/models/page_values.h"
+#include "dialog/pages/name_field.h"
 #include "dialog/presets/preset_library.h"
 #include "resources/art_ids.h"
 #include "resources/page_ids.h"
@@ -206,6 +207,9 @@ void SettingsPage::MakeRow(const ControlRow& row) {
     }
     case RowKind::kSeedField:
       SendMessageA(Item(row.id), EM_LIMITTEXT, kMaxValueText, 0);
+      break;
+    case RowKind::kTexture:
+      TellDoubleClicks(Item(row.id));
       break;
     default:
       break;
