@@ -14,6 +14,7 @@ namespace {
 
 using testing::FirstDifference;
 using testing::NoisyDocument;
+using testing::Pnm;
 using testing::PreviewStage;
 
 constexpr PaneSize kPane = {60, 44};
