@@ -1,4 +1,7 @@
 // The controls of a drawer: boxes, buttons, cells and where they lie.
+#include <algorithm>
+
+#include "controls/back_buffer.h"
 #include "controls/control_classes.h"
 #include "controls/image_control.h"
 #include "controls/tool_tip.h"
@@ -14,6 +17,7 @@ namespace {
 
 constexpr int kCellHost = 33;
 constexpr int kFirstCell = 100;
+constexpr int kCaptionHeight = 12;
 
 HMENU MenuOf(int id) {
   return reinterpret_cast<HMENU>(static_cast<INT_PTR>(id));
@@ -25,6 +29,30 @@ void UseFont(HWND window, HFONT font) {
 
 void AddRow(HWND box, std::string_view text) {
   SendMessageA(box, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(std::string(text).c_str()));
+}
+
+// As wide as its longest row, where the box itself has less room.
+void FitList(HWND box) {
+  const HDC dc = GetDC(box);
+  const auto font = reinterpret_cast<HFONT>(SendMessageA(box, WM_GETFONT, 0, 0));
+  int width = 0;
+  {
+    const Selected selected(dc, font);
+    const auto rows = static_cast<int>(SendMessageA(box, CB_GETCOUNT, 0, 0));
+    for (int row = 0; row < rows; ++row) {
+      const auto at = static_cast<WPARAM>(row);
+      const LRESULT length = SendMessageA(box, CB_GETLBTEXTLEN, at, 0);
+      if (length < 0) continue;
+      std::string text(static_cast<std::size_t>(length) + 1, '\0');
+      SendMessageA(box, CB_GETLBTEXT, at, reinterpret_cast<LPARAM>(text.data()));
+      SIZE size{};
+      GetTextExtentPoint32A(dc, text.c_str(), static_cast<int>(length), &size);
+      width = std::max(width, static_cast<int>(size.cx));
+    }
+  }
+  ReleaseDC(box, dc);
+  width += GetSystemMetrics(SM_CXVSCROLL) + 4 * GetSystemMetrics(SM_CXEDGE);
+  SendMessageA(box, CB_SETDROPPEDWIDTH, static_cast<WPARAM>(width), 0);
 }
 
 void MoveButton(const ControlButton* button, const Place& place) {
@@ -43,8 +71,13 @@ HWND TDrawerPicker::MakeCaption(int controlId, int left, int top, int w, int h, 
   const HWND caption =
       CreateWindowExA(0, "STATIC", text, WS_CHILD | WS_VISIBLE | SS_RIGHT, left, top, w, h, window,
                       MenuOf(controlId), SharedControls().instance, nullptr);
-  // The bold one is too wide for the places.
-  UseFont(caption, SharedControls().fonts.FontThumbCaption);
+  if (captionFont_ == nullptr) {
+    // As large on every screen as its place is.
+    captionFont_ = CreateFontA(kCaptionHeight, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE,
+                               DEFAULT_CHARSET, OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS,
+                               PROOF_QUALITY, DEFAULT_PITCH | FF_DONTCARE, "Arial");
+  }
+  UseFont(caption, captionFont_);
   return caption;
 }
 
@@ -113,6 +146,7 @@ void TDrawerPicker::FillBoxes() {
   if (mode_ == DrawerMode::kColors) {
     for (const std::string_view row : kColorCategories) AddRow(effectBox_, row);
     SendMessageA(effectBox_, CB_SETCURSEL, 0, 0);
+    FitList(effectBox_);
     return;
   }
   SendMessageA(setBox_, CB_RESETCONTENT, 0, 0);
@@ -125,6 +159,8 @@ void TDrawerPicker::FillBoxes() {
   for (const std::string_view effect : kTextureEffects) AddRow(effectBox_, effect);
   SendMessageA(setBox_, CB_SETCURSEL, 0, 0);
   SendMessageA(effectBox_, CB_SETCURSEL, 0, 0);
+  FitList(setBox_);
+  FitList(effectBox_);
 }
 
 void TDrawerPicker::MakeCells() {

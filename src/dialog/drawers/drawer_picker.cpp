@@ -34,6 +34,13 @@ std::vector<std::string> FilesIn(const std::string& folder, std::string_view end
 
 }  // namespace
 
+TDrawerPicker::~TDrawerPicker() {
+  cells_.clear();
+  cellHost_.reset();
+  if (window != nullptr) DestroyWindow(window);
+  if (captionFont_ != nullptr) DeleteObject(captionFont_);
+}
+
 LRESULT TDrawerPicker::WindowProc(HWND target, UINT message, WPARAM wParam, LPARAM lParam) {
   try {
     return Handle(target, message, wParam, lParam);

@@ -42,6 +42,7 @@ struct DrawerHooks {
 class TDrawerPicker : public TDrawerWindow {
  public:
   explicit TDrawerPicker(DrawerMode mode) : mode_(mode) {}
+  ~TDrawerPicker() override;
 
   void OnCreated() override;
   LRESULT WindowProc(HWND target, UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -112,6 +113,7 @@ class TDrawerPicker : public TDrawerWindow {
   std::vector<std::unique_ptr<TPickerThump2>> cells_;
   HWND setBox_ = nullptr;     // textures only
   HWND effectBox_ = nullptr;  // or the categories of colours
+  HFONT captionFont_ = nullptr;
   // Their windows'.
   ControlButton* selectButton_ = nullptr;
   ControlButton* cancelButton_ = nullptr;
