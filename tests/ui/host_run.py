@@ -45,9 +45,14 @@ class HostRun:
         self.program = None
         # Files of the module's folder of presets by their names in it, for open().
         self.presets = {}
+        # The same for the folder of textures; None takes all out of it.
+        self.textures = {}
 
     def file(self, name):
         return os.path.join(self.folder, name)
+
+    def texture(self, name):
+        return self.file(os.path.join("Tarnwick Studio", name))
 
     def preset(self, name):
         return self.file(os.path.join("Tarnwick Studio", "Presets", name))
@@ -88,13 +93,18 @@ class HostRun:
 
     def data(self):
         """The folder from which the host takes what lies beside the module."""
-        if not self.presets:
+        if not self.presets and self.textures == {}:
             return self.arguments.data
         folder = self.file("data")
         shutil.rmtree(folder, ignore_errors=True)
         textures = os.path.join("golden", "textures")
-        shutil.copytree(os.path.join(self.arguments.data, textures),
-                        os.path.join(folder, textures))
+        if self.textures is None:
+            os.makedirs(os.path.join(folder, textures))
+        else:
+            shutil.copytree(os.path.join(self.arguments.data, textures),
+                            os.path.join(folder, textures))
+        for name, data in (self.textures or {}).items():
+            self.put(os.path.join(folder, textures, name), data)
         for name, data in self.presets.items():
             path = os.path.join(folder, textures, "Presets", name)
             os.makedirs(os.path.dirname(path), exist_ok=True)

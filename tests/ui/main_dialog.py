@@ -12,12 +12,16 @@ import subprocess
 
 import dialog_about  # noqa: F401  more scenarios
 import dialog_auto  # noqa: F401
+import dialog_color_drawer  # noqa: F401
+import dialog_drawer_cells  # noqa: F401
+import dialog_drawers  # noqa: F401
 import dialog_filmstrip  # noqa: F401
 import dialog_help  # noqa: F401
 import dialog_links  # noqa: F401
 import dialog_news  # noqa: F401
 import dialog_options  # noqa: F401
 import dialog_pages  # noqa: F401
+import dialog_picker  # noqa: F401
 import dialog_preset_saving  # noqa: F401
 import dialog_presets  # noqa: F401
 import dialog_preview  # noqa: F401
