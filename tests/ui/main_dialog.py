@@ -21,6 +21,7 @@ import dialog_links  # noqa: F401
 import dialog_news  # noqa: F401
 import dialog_options  # noqa: F401
 import dialog_pages  # noqa: F401
+import dialog_picker  # noqa: F401
 import dialog_preset_saving  # noqa: F401
 import dialog_presets  # noqa: F401
 import dialog_preview  # noqa: F401

@@ -30,6 +30,12 @@ void DrawLine(HDC dc, int x, int y, int right, COLORREF color, const std::string
   DrawTextA(dc, text.c_str(), -1, &line, DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS);
 }
 
+// Where the pointer was as the message came about; by now it may be elsewhere.
+POINT MessagePoint() {
+  const DWORD place = GetMessagePos();
+  return {static_cast<short>(LOWORD(place)), static_cast<short>(HIWORD(place))};
+}
+
 class DetailWindow {
  public:
   explicit DetailWindow(const TextureDetail& detail) : detail_(detail) {}
@@ -75,7 +81,7 @@ class DetailWindow {
         return TRUE;
       case WM_LBUTTONDOWN:
         SetCapture(window_);
-        GetCursorPos(&held_);
+        held_ = MessagePoint();
         isHeld_ = true;
         return TRUE;
       case WM_MOUSEMOVE:
@@ -139,9 +145,9 @@ class DetailWindow {
   // By as much as the pointer, which stays over the same point of it.
   void Move() {
     if (!isHeld_) return;
-    POINT now{};
+    const POINT now = MessagePoint();
     RECT own{};
-    if (GetCursorPos(&now) == FALSE || GetWindowRect(window_, &own) == FALSE) return;
+    if (GetWindowRect(window_, &own) == FALSE) return;
     SetWindowPos(window_, nullptr, own.left + now.x - held_.x, own.top + now.y - held_.y, 0, 0,
                  SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
     held_ = now;
