@@ -172,7 +172,10 @@ bool RunMainDialog(FilterGlobals& g) {
     const ControlSession controls(instance, *g.gFilterRecord);
     MainDialog dialog(g);
     accepted = dialog.Run(instance, static_cast<HWND>(g.ownerWindow)) == IDOK;
-    SaveUiFile(g.folders.modulePath + kUiFileName, *g.gParams, g.ui);
+    // Without a folder of its own it would fall into whatever the host stands in.
+    if (!g.folders.modulePath.empty()) {
+      SaveUiFile(g.folders.modulePath + kUiFileName, *g.gParams, g.ui);
+    }
   }
   return accepted;
 }

@@ -21,8 +21,12 @@ void MainDialog::ThrowLook() {
   }
   // A field that still waits for its timer would write into the new look.
   if (pages_) pages_->FinishSpins();
-  (void)AutoRandomize(AutoLibraryOf(g_.folders.presetFolder, drawerLists_, Seconds), *g_.gParams,
-                      PresetsOf(g_));
+  const AutoThrow thrown = AutoRandomize(
+      AutoLibraryOf(g_.folders.presetFolder, drawerLists_, Seconds), *g_.gParams, PresetsOf(g_));
+  if (drawers_) {
+    drawers_->NameColors(thrown.surfaceColors);
+    drawers_->NameColors(thrown.backgroundColors);
+  }
   if (preview_) preview_->RemakeLayers({});
   UpdatePage(PageUpdate::kShowSettings);
   SyncStrip();

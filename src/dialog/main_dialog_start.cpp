@@ -17,6 +17,7 @@
 #include "dialog/main_dialog.h"
 #include "dialog/models/new_layer_options.h"
 #include "dialog/sound.h"
+#include "environment/live_preview_flag.h"
 #include "filter/document_layers.h"
 #include "resources/art_ids.h"
 
@@ -132,6 +133,7 @@ void MainDialog::Start() {
   AddTips();
   OpenPreview();
   cancelSnapshot_ = lastUsedSnapshot_ = settings;
+  g_.session.PickerLivePreview = LoadLivePreviewFlag() ? 1 : 0;
   MakeDrawers();
   isStarted_ = true;
   LookForNews();

@@ -18,12 +18,14 @@ void ModuleWindows::ShowAboutBox(FilterGlobals& g) {
   EffectSettings settings;
   SettingsSession session;
   InitSettingsToDefaults(settings, session);
-  LoadUiFile(file, settings, g.ui);
+  // Without a folder of its own it would be whatever the host stands in.
+  const bool isKnown = !g.folders.modulePath.empty();
+  if (isKnown) LoadUiFile(file, settings, g.ui);
   const std::int32_t before = g.ui.useSound;
   // Not through the access suite: this much works in every host.
   ShowAboutDialog(static_cast<HINSTANCE>(OwnModuleHandle()), static_cast<HWND>(g.ownerWindow),
                   g.folders, g.ui.useSound);
-  if (g.ui.useSound != before) SaveUiFile(file, settings, g.ui);
+  if (isKnown && g.ui.useSound != before) SaveUiFile(file, settings, g.ui);
 }
 
 }  // namespace tarnwick

@@ -128,6 +128,13 @@ TEST(DrawerList, FiltersColorsByTheirCategories) {
   EXPECT_EQ(list.ShownCount(), 2);
   EXPECT_TRUE(list.FilterCategory(4));  // "Green Tones"
   EXPECT_EQ(list.SelectedPlace(), 1);
+  // Drawn by chance: what is marked stays until a filter looks for it.
+  list.NameSelected("Rust.twkpst");
+  EXPECT_EQ(list.SelectedPlace(), 1);
+  EXPECT_EQ(list.SelectedName(), "Rust.twkpst");
+  EXPECT_TRUE(list.FilterCategory(0));
+  EXPECT_EQ(list.SelectedPlace(), 1);
+  EXPECT_EQ(list.DisplayName(1), "Rust");
 }
 
 TEST(DrawerList, IsEmptyWithoutFiles) {

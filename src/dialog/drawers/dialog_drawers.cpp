@@ -12,6 +12,7 @@
 #include "dialog/edits/detail_look.h"
 #include "dialog/models/drawer_panel.h"
 #include "dialog/picker/texture_picker.h"
+#include "presets/color_list.h"
 #include "textures/texture_set_table.h"
 #include "textures/texture_thumbnail.h"
 
@@ -152,20 +153,22 @@ void DialogDrawers::OpenTextures(int tab) {
   if (!textures_ || textures_->window == nullptr || OpenOne() != nullptr) return;
   const std::string name = texture_.Open(tab);
   if (!texture_.IsOpen()) return;
-  PrepareCells(tab);
+  PrepareCells(tab, false);
   Open(*textures_);
   textures_->OpenList(name, g_.folders.dataFolder);
 }
 
-// For the effect that `texture_` is open for.
-void DialogDrawers::PrepareCells(int tab) {
+// For the effect that `texture_` is open for. Odd, and kept: the full-size picker makes
+// its relief of the other surface's depth, as the colour drawer does.
+void DialogDrawers::PrepareCells(int tab, bool isDepthCrossed) {
   const EffectSettings& settings = *g_.gParams;
   cellPreview_.MakeBackdrop();
   if (texture_.Kind() == LayerKind::kWash) cellPreview_.MakeBackgroundStage();
   if (texture_.Kind() == LayerKind::kSurface) {
     const bool isSecond =
         ActiveSlot(tab, views_, g_.layers, *g_.gParams)->layer == &g_.layers.surfaces[1];
-    const std::int32_t depth = isSecond ? settings.SurfaceDepth2 : settings.SurfaceDepth1;
+    const std::int32_t depth =
+        isSecond != isDepthCrossed ? settings.SurfaceDepth2 : settings.SurfaceDepth1;
     cellPreview_.SetReliefFactor(static_cast<float>(depth) / kFullRelief);
   }
 }
@@ -185,7 +188,7 @@ void DialogDrawers::OpenFullSize(int tab) {
                     // What is missing is told over the picker.
                     g_.ownerWindow = picker.dialog;
                     cellPreview_.SetSize(size);
-                    PrepareCells(tab);
+                    PrepareCells(tab, true);
                   },
                   [&](ThumbnailPicture& picture) {
                     return cellPreview_.Preview(CellTargetOf(kind), views_, picture);
@@ -194,7 +197,9 @@ void DialogDrawers::OpenFullSize(int tab) {
                     return LookAtTexture(g_, preview_, views_, kind, tried, size);
                   },
                   hooks_.fail};
+  picker.livePreview = g_.session.PickerLivePreview != 0;
   (void)OpenTexturePicker(name.c_str(), owner_, &picker);
+  g_.session.PickerLivePreview = picker.livePreview ? 1 : 0;
   g_.ownerWindow = owner_;
   // The drawers count on their own size.
   cellPreview_.SetSize(kDrawerThumbnail);
@@ -319,6 +324,11 @@ void DialogDrawers::Relayout() {
   if (!textures_ || textures_->height == std::exchange(laidHeight_, textures_->height)) return;
   textures_->Relayout();
   colors_->Relayout();
+}
+
+void DialogDrawers::NameColors(const std::string& name) {
+  if (!colors_ || name.empty()) return;
+  colors_->NameSelected(name == kResetColorsName ? name : name + ".twkpst");
 }
 
 DrawerLists DialogDrawers::Lists() {

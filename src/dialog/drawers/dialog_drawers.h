@@ -65,6 +65,10 @@ class DialogDrawers {
   void Move(const Place& place);
   void Relayout();
 
+  // A colour preset that chance has drawn, without its extension, as if it had been
+  // chosen; no name changes nothing.
+  void NameColors(const std::string& name);
+
   // What they show by now, for chance to choose from.
   [[nodiscard]] DrawerLists Lists();
 
@@ -77,7 +81,7 @@ class DialogDrawers {
 
   void MakePanel(const Place& place);
   [[nodiscard]] TextureSetTable TextureSets() const;
-  void PrepareCells(int tab);
+  void PrepareCells(int tab, bool isDepthCrossed);
   void DoTextureWork(const TextureWork& work);
   void Open(TDrawerPicker& drawer);
   void Closed();

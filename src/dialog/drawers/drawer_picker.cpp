@@ -7,7 +7,6 @@
 #include "dialog/drawers/drawer_ids.h"
 #include "dialog/models/drawer_places.h"
 #include "dialog/presets/folder_listing.h"
-#include "presets/auto_randomize.h"
 #include "settings/ascii_text.h"
 #include "textures/texture_thumbnail.h"
 
@@ -269,13 +268,6 @@ void TDrawerPicker::Relayout() {
   PlaceButtons();
   MakeCells();
   LoadPage();
-}
-
-std::optional<std::string> TDrawerPicker::RandomRecord(std::uint32_t seconds) const {
-  AutoDice dice(0);
-  const int place = RandomDrawerEntry(static_cast<std::size_t>(list_.ShownCount()), seconds, dice);
-  if (place < 0) return std::nullopt;
-  return mode_ == DrawerMode::kTextures ? list_.FileName(place) : list_.DisplayName(place);
 }
 
 std::string TDrawerPicker::SelectedName() const {

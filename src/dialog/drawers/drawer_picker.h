@@ -5,6 +5,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "base/progress.h"
@@ -14,7 +15,6 @@
 #include "dialog/drawers/drawer_cell.h"
 #include "dialog/models/dialog_layout.h"
 #include "dialog/models/drawer_list.h"
-#include "presets/auto_dice.h"
 
 namespace tarnwick {
 
@@ -56,9 +56,6 @@ class TDrawerPicker : public TDrawerWindow {
 
   // For another size of the panel: cells, pages and buttons anew.
   void Relayout();
-  // One of those that are shown, as chance draws it: a texture's file name, or a colour
-  // preset's name. Nothing from an empty list.
-  [[nodiscard]] std::optional<std::string> RandomRecord(std::uint32_t seconds) const;
 
   // Comes in with the focus, or goes.
   void Open();
@@ -73,6 +70,7 @@ class TDrawerPicker : public TDrawerWindow {
   // What the owner takes: a texture's file name, a colour preset's name without its
   // extension. Empty when nothing is selected.
   [[nodiscard]] std::string SelectedName() const;
+  void NameSelected(std::string_view fileName) { list_.NameSelected(fileName); }
 
   DrawerHooks hooks;
 

@@ -51,6 +51,8 @@ class DrawerList {
 
   // Selects the first record of this file name, in any case, or none, and turns to it.
   void SelectByName(std::string_view name);
+  // The name alone, as chance has drawn it: what is marked stays.
+  void NameSelected(std::string_view name) { selectedName_ = name; }
   // A click on a record; the page stays.
   void Select(int place);
   // To the page of the selected one; false if it is shown already.

@@ -100,8 +100,9 @@ void TPickerThump::Track(LPARAM lParam) {
     SetCapture(window);
     pointerInside = true;
   } else {
-    if (GetCapture() == window) ReleaseCapture();
+    // First, lest the release asks for a redraw.
     pointerInside = false;
+    if (GetCapture() == window) ReleaseCapture();
     // The button shows what is under the pointer there.
     if (isInside) return;
   }

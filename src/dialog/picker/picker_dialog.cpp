@@ -149,7 +149,6 @@ void PickerDialog::Start() {
   CentreInBand();
   MakePageButtons();
   for (const Tip& tip : kTips) AddToolTip(Item(tip.id), tip.text, nullptr);
-  picker_.livePreview = LoadLivePreviewFlag();
   CheckDlgButton(window_, TARNWICK_PICKER_LIVE, picker_.livePreview ? BST_CHECKED : BST_UNCHECKED);
   strip_ = std::make_unique<TPickerPages>();
   if (!strip_->Make(window_, TARNWICK_PICKER_STRIP, scale_)) strip_.reset();

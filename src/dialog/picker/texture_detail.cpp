@@ -122,12 +122,8 @@ class DetailWindow {
     AddToolTip(GetDlgItem(window_, IDCANCEL), "Close window", nullptr);
     const ThumbnailSize size = {places_.picture.width, places_.picture.height};
     if (size.width < 1 || size.height < 1 || !detail_.picture) return;
-    const HCURSOR before = SetCursor(LoadCursorA(nullptr, MAKEINTRESOURCEA(32514)));  // the wait
-    struct CursorBack {
-      HCURSOR cursor;
-      ~CursorBack() { SetCursor(cursor); }
-    } const back{before};
     const ThumbnailPicture picture = detail_.picture(size);
+    // That of a small document stands in the middle.
     pictureX_ = places_.picture.x + (size.width - picture.width) / 2;
     pictureY_ = places_.picture.y + (size.height - picture.height) / 2;
     picture_ = ThumbnailBitmap(picture);
