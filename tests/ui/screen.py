@@ -20,15 +20,18 @@ class Timeout(Exception):
 
 
 def wait_for(condition, what, seconds=30):
-    """The first true value of condition(), asked again and again."""
+    """The first true value of condition(), asked again and again: at first often, so that
+    nothing short is missed, then less, which leaves the machine to the windows."""
     deadline = time.monotonic() + seconds
+    pause = 0.01
     while True:
         value = condition()
         if value:
             return value
         if time.monotonic() > deadline:
             raise Timeout(what if isinstance(what, str) else what())
-        time.sleep(0.01)
+        time.sleep(pause)
+        pause = min(pause * 1.2, 0.05)
 
 
 class Screen:
