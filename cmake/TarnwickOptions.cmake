@@ -50,6 +50,14 @@ endif()
 
 find_package(Threads REQUIRED)
 
+# CMAKE_UNITY_BUILD (the presets of CI) compiles sources together by the dozen, as most
+# of the time goes into headers. These stay alone: they are a platform's half, which a
+# test program may bring itself instead, or have names of their own choice in common with
+# their neighbours.
+function(tarnwick_compile_alone)
+  set_source_files_properties(${ARGN} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
+endfunction()
+
 # For targets of many small sources, which else spend half their time on these. Not
 # with GCC, which then warns of what it finds in the library itself.
 function(tarnwick_precompile)
@@ -92,6 +100,9 @@ function(tarnwick_sources out)
   # in a debug build: a library template that is not inlined there might be the
   # copy that the linker keeps for all, and other processors cannot run it.
   foreach(file ${found})
+    if(file MATCHES "_(win|posix)\\.cpp$")
+      tarnwick_compile_alone("${file}")
+    endif()
     if(file MATCHES "_avx2\\.cpp$")
       set_source_files_properties("${file}" PROPERTIES
         COMPILE_OPTIONS "-mavx2;-O3" SKIP_PRECOMPILE_HEADERS ON)

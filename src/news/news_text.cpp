@@ -9,7 +9,7 @@ namespace tarnwick {
 namespace {
 
 constexpr std::string_view kFirstLine = "TarnwickStudio news";
-constexpr std::string_view kVersionWord = "version ";
+constexpr std::string_view kNewsVersionWord = "version ";
 
 using Version = std::array<std::uint16_t, 4>;
 
@@ -28,7 +28,7 @@ std::optional<Version> ParseVersion(std::string_view text) {
 }
 
 // Without its end and the blanks before that.
-std::string_view TakeLine(std::string_view& rest) {
+std::string_view TakeTrimmedLine(std::string_view& rest) {
   const std::size_t end = rest.find('\n');
   std::string_view line = rest.substr(0, end);
   rest.remove_prefix(end == std::string_view::npos ? rest.size() : end + 1);
@@ -40,11 +40,11 @@ std::string_view TakeLine(std::string_view& rest) {
 
 bool TellsOfNewer(std::string_view text, std::string_view own) {
   const std::optional<Version> known = ParseVersion(own);
-  if (!known || TakeLine(text) != kFirstLine) return false;
+  if (!known || TakeTrimmedLine(text) != kFirstLine) return false;
   while (!text.empty()) {
-    const std::string_view line = TakeLine(text);
-    if (!line.starts_with(kVersionWord)) continue;
-    const std::optional<Version> told = ParseVersion(line.substr(kVersionWord.size()));
+    const std::string_view line = TakeTrimmedLine(text);
+    if (!line.starts_with(kNewsVersionWord)) continue;
+    const std::optional<Version> told = ParseVersion(line.substr(kNewsVersionWord.size()));
     return told && *told > *known;
   }
   return false;

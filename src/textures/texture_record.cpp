@@ -12,7 +12,6 @@ namespace tarnwick {
 namespace {
 
 constexpr std::string_view kExtension = ".twk";
-constexpr std::uint32_t kMagic = 0x74776B31;  // "1kwt" in the file
 
 using HeaderBytes = std::array<char, AWashFile::kHeaderBytes>;
 
@@ -43,7 +42,7 @@ void ReadRecordHeader(const std::string& folder, TextureRecord& record) {
   std::ifstream file(TexturePath(folder, name), std::ios::binary);
   HeaderBytes bytes{};
   if (!file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()))) return;
-  if (WordAt(bytes, 0) != kMagic) return;
+  if (WordAt(bytes, 0) != AWashFile::kMagic) return;
   record.headerWord = WordAt(bytes, AWashFile::kHeaderWordOffset);
   record.effectMask = WordAt(bytes, AWashFile::kEffectMaskOffset);
   record.setId = WordAt(bytes, AWashFile::kSetIdOffset);

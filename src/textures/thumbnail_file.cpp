@@ -16,7 +16,7 @@ namespace {
 constexpr std::size_t kFileHeaderBytes = 14;
 constexpr std::size_t kHeaderBytes = kFileHeaderBytes + 40;
 constexpr std::uint32_t kLongestSide = 4096;
-constexpr std::size_t kMostBytes = std::size_t{kLongestSide} * kLongestSide * 3 + 4096;
+constexpr std::size_t kMostFileBytes = std::size_t{kLongestSide} * kLongestSide * 3 + 4096;
 
 std::size_t RowBytes(std::size_t width) {
   return (width * 3 + 3) / 4 * 4;
@@ -63,7 +63,7 @@ std::string BitmapBytes(const ThumbnailPicture& picture) {
 std::string ReadBytes(const std::string& path) {
   std::error_code error;
   const std::uintmax_t length = std::filesystem::file_size(PathOfName(path), error);
-  if (error || length < kHeaderBytes || length > kMostBytes) return {};
+  if (error || length < kHeaderBytes || length > kMostFileBytes) return {};
   std::ifstream file(path, std::ios::binary);
   std::string bytes(static_cast<std::size_t>(length), '\0');
   if (!file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()))) return {};

@@ -9,7 +9,6 @@
 namespace tarnwick {
 namespace {
 
-constexpr std::uint32_t kMagic = 0x74776B31;     // 'twk1', stored as "1kwt"
 constexpr std::uint32_t kOldMagic = 0x77617368;  // "wash"
 constexpr char kWrongHeader[] =
     "AWashFile::InitWithFile - Header check failed, file does not appear to be a wash file";

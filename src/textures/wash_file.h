@@ -24,6 +24,7 @@ namespace tarnwick {
 class AWashFile {
  public:
   using Complain = std::function<void(const std::string& text)>;
+  static constexpr std::uint32_t kMagic = 0x74776B31;  // "1kwt" in the file
   static constexpr std::size_t kHeaderBytes = 52;
   static constexpr std::size_t kOldHeaderBytes = 16;
   // Words of the current form's header that the catalogue reads.

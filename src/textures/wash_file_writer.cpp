@@ -12,35 +12,28 @@
 
 #include "base/checked_size.h"
 #include "base/native_path.h"
+#include "textures/wash_file.h"
 
 namespace tarnwick {
 namespace {
 
-constexpr std::size_t kHeaderBytes = 52;
-constexpr std::uint32_t kMagic = 0x74776B31;  // "1kwt" in the file
+using EncodedHeader = std::array<std::uint8_t, AWashFile::kHeaderBytes>;
 
-// Where the catalogue looks within the part that the image reader skips.
-constexpr std::size_t kSetIdOffset = 20;
-constexpr std::size_t kHeaderWordOffset = 24;
-constexpr std::size_t kEffectMaskOffset = 28;
-
-using HeaderBytes = std::array<std::uint8_t, kHeaderBytes>;
-
-void PutWord(HeaderBytes& bytes, std::size_t offset, std::uint32_t word) {
+void PutWord(EncodedHeader& bytes, std::size_t offset, std::uint32_t word) {
   for (std::size_t i = 0; i < 4; ++i) {
     bytes[offset + i] = static_cast<std::uint8_t>(word >> (8 * i));
   }
 }
 
-HeaderBytes EncodeHeader(const WashFileHeader& header) {
-  HeaderBytes bytes{};
-  PutWord(bytes, 0, kMagic);
+EncodedHeader EncodeHeader(const WashFileHeader& header) {
+  EncodedHeader bytes{};
+  PutWord(bytes, 0, AWashFile::kMagic);
   PutWord(bytes, 4, static_cast<std::uint32_t>(header.width));
   PutWord(bytes, 8, static_cast<std::uint32_t>(header.height));
   PutWord(bytes, 12, static_cast<std::uint32_t>(header.channels));
-  PutWord(bytes, kSetIdOffset, header.setId);
-  PutWord(bytes, kHeaderWordOffset, header.headerWord);
-  PutWord(bytes, kEffectMaskOffset, header.effectMask);
+  PutWord(bytes, AWashFile::kSetIdOffset, header.setId);
+  PutWord(bytes, AWashFile::kHeaderWordOffset, header.headerWord);
+  PutWord(bytes, AWashFile::kEffectMaskOffset, header.effectMask);
   return bytes;
 }
 
@@ -55,7 +48,7 @@ bool SizesAgree(const WashFileHeader& header, std::size_t sampleCount) {
          all == sampleCount;
 }
 
-bool WriteAll(const std::filesystem::path& path, const HeaderBytes& header,
+bool WriteAll(const std::filesystem::path& path, const EncodedHeader& header,
               std::span<const std::uint8_t> payload) {
   std::ofstream file(path, std::ios::binary | std::ios::trunc);
   file.write(reinterpret_cast<const char*>(header.data()),

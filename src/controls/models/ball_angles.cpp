@@ -3,16 +3,12 @@
 #include <algorithm>
 #include <cmath>
 
+#include "controls/models/ball_radians.h"
+
 namespace tarnwick {
 namespace {
 
-// Not all of its digits, and kept: offsets hang on it.
-constexpr float kPi = 3.141592F;
-constexpr float kDegreesOfRadian = 57.29579143313326F;  // 180 by that
-
-float Radians(float degrees) {
-  return degrees * kPi / 180.0F;
-}
+constexpr float kDegreesOfRadian = 57.29579143313326F;  // 180 by kBallPi
 
 float Distance(int x, int y, int cx, int cy) {
   const auto dx = static_cast<float>(x - cx);
@@ -33,7 +29,7 @@ float AngleAt(int x, int y, int cx, int cy, bool isDial, float present) {
 // How much the disc's radius falls short of the square's at this azimuth.
 float Fold(float azimuth) {
   const float u = std::fmod(std::fabs(azimuth), 90.0F);
-  return std::cos(Radians(u > 45.0F ? 90.0F - u : u));
+  return std::cos(BallRadians(u > 45.0F ? 90.0F - u : u));
 }
 
 }  // namespace
@@ -64,8 +60,8 @@ void BallAngles::Drag(int x, int y, int width, int height, bool isDial) {
 }
 
 BallOffset OffsetOf(float azimuth, float altitude) {
-  const float r = std::cos(Radians(altitude)) * 100.0F;
-  const float t = Radians(-azimuth);
+  const float r = std::cos(BallRadians(altitude)) * 100.0F;
+  const float t = BallRadians(-azimuth);
   const float fold = Fold(azimuth);
   return {std::cos(t) * r / fold, -std::sin(t) * r / fold};
 }

@@ -3,14 +3,10 @@
 #include <algorithm>
 #include <cmath>
 
+#include "controls/models/ball_radians.h"
+
 namespace tarnwick {
 namespace {
-
-constexpr float kPi = 3.141592F;
-
-float Radians(float degrees) {
-  return degrees * kPi / 180.0F;
-}
 
 struct Vector {
   float x, y, z;
@@ -22,8 +18,8 @@ Vector Normalised(Vector v) {
 }
 
 Vector DirectionOf(const BallLight& light) {
-  const float azimuth = Radians(light.azimuth + 90.0F);
-  const float altitude = Radians(light.altitude);
+  const float azimuth = BallRadians(light.azimuth + 90.0F);
+  const float altitude = BallRadians(light.altitude);
   return Normalised({std::sin(azimuth) * std::cos(altitude), std::cos(azimuth) * std::cos(altitude),
                      std::sin(altitude)});
 }
@@ -75,8 +71,8 @@ std::vector<std::uint8_t> ShadedBall(int width, int height, const BallLight& lig
 
 BallMarker MarkerOf(int width, int height, float azimuth, float altitude) {
   const float reach =
-      0.99F * static_cast<float>(RadiusOf(width, height)) * std::cos(Radians(altitude));
-  const float angle = Radians(-azimuth);
+      0.99F * static_cast<float>(RadiusOf(width, height)) * std::cos(BallRadians(altitude));
+  const float angle = BallRadians(-azimuth);
   return {width / 2 + static_cast<int>(std::lround(std::cos(angle) * reach)),
           height / 2 + static_cast<int>(std::lround(std::sin(angle) * reach))};
 }

@@ -36,6 +36,11 @@ inline constexpr int kStripHeight = 33;
 // The left edge of the pane's frame as the template gives it, moved on fine screens.
 [[nodiscard]] int PreviewLeftFor(int templateLeft, int dpi);
 
+// A length of the design where fonts are `scale` times as large, to the nearest pixel.
+[[nodiscard]] inline int ScaledLength(int length, float scale) {
+  return static_cast<int>(static_cast<float>(length) * scale + 0.5F);
+}
+
 // The smallest frame that a user can drag the dialog to.
 struct TrackSize {
   int width, height;

@@ -15,11 +15,7 @@ int OnScreen(int length, int dpi) {
   return length * std::max(dpi, kDesignDpi) / kDesignDpi;
 }
 
-int Scaled(int length, float scale) {
-  return static_cast<int>(static_cast<float>(length) * scale + 0.5F);
-}
-
-Place Between(int left, int top, int right, int bottom) {
+Place PlaceBetween(int left, int top, int right, int bottom) {
   return {left, top, std::max(right - left, 0), std::max(bottom - top, 0)};
 }
 
@@ -47,7 +43,7 @@ Place PickerCellPlace(const PickerGrid& grid, int cell) {
 }
 
 Place DetailButtonPlace(const PickerGrid& grid, float scale) {
-  const int side = Scaled(16, scale);
+  const int side = ScaledLength(16, scale);
   return {grid.cellWidth - 9 - side, grid.cellHeight - 52, side, side};
 }
 
@@ -73,21 +69,21 @@ PickerBands BandsOf(const Place& frame, int clientWidth, int clientHeight, int d
   const int height = OnScreen(kBandHeight, dpi);
   const int upper = frame.y - height;
   const int lower = bottom + OnScreen(kBelowFrame, dpi);
-  return {Between(frame.x, upper, right, frame.y), Between(frame.x, lower, right, lower + height),
-          Between(0, 0, clientWidth, upper), Between(0, lower + height, clientWidth, clientHeight)};
+  return {PlaceBetween(frame.x, upper, right, frame.y), PlaceBetween(frame.x, lower, right, lower + height),
+          PlaceBetween(0, 0, clientWidth, upper), PlaceBetween(0, lower + height, clientWidth, clientHeight)};
 }
 
 DetailPlaces DetailPlacesIn(int clientWidth, int clientHeight, int dpi, float scale) {
   constexpr int kMargin = 20;
   DetailPlaces places;
   places.picture =
-      Between(kMargin, kMargin, clientWidth - kMargin, clientHeight - OnScreen(60, dpi));
+      PlaceBetween(kMargin, kMargin, clientWidth - kMargin, clientHeight - OnScreen(60, dpi));
   places.close = {clientWidth - 18, 4, 14, 14};
   const int below = kMargin + places.picture.height;
   places.textLeft = kMargin;
-  places.valueLeft = kMargin + Scaled(65, scale);
-  places.setTop = below + Scaled(5, scale);
-  places.nameTop = below + Scaled(15, scale);
+  places.valueLeft = kMargin + ScaledLength(65, scale);
+  places.setTop = below + ScaledLength(5, scale);
+  places.nameTop = below + ScaledLength(15, scale);
   return places;
 }
 

@@ -13,14 +13,10 @@ constexpr int kRoundCurrent = 11;
 constexpr int kAtEnds = 5;
 constexpr int kAtEndsAlone = 13;
 
-int Scaled(int length, float scale) {
-  return static_cast<int>(static_cast<float>(length) * scale + 0.5F);
-}
-
 int LabelWidth(int page, float scale) {
   int digits = 1;
   for (int number = page + 1; number >= 10; number /= 10) ++digits;
-  return Scaled((10 - std::min(digits, 2)) * digits, scale);
+  return ScaledLength((10 - std::min(digits, 2)) * digits, scale);
 }
 
 int RunWidth(int first, int count, float scale) {
@@ -41,7 +37,7 @@ void AddRun(int first, int count, int x, float scale, std::vector<PageLabel>& la
 
 std::vector<PageLabel> PageLabels(int pageCount, int currentPage, int stripWidth, float scale) {
   std::vector<PageLabel> labels;
-  const int left = Scaled(kEdge, scale);
+  const int left = ScaledLength(kEdge, scale);
   if (pageCount <= kMostWithoutGap) {
     AddRun(0, std::max(pageCount, 0), left, scale, labels);
     return labels;
@@ -57,7 +53,7 @@ std::vector<PageLabel> PageLabels(int pageCount, int currentPage, int stripWidth
   AddRun(0, kAtEnds, left, scale, labels);
   const int first = currentPage - kBeforeCurrent;
   // Numbers of three digits would run into those at the end.
-  const int middle = std::min(stripWidth / 2 - Scaled(120, scale),
+  const int middle = std::min(stripWidth / 2 - ScaledLength(120, scale),
                               rightRun(kAtEnds) - RunWidth(first, kRoundCurrent, scale));
   AddRun(first, kRoundCurrent, middle, scale, labels);
   AddRun(pageCount - kAtEnds, kAtEnds, rightRun(kAtEnds), scale, labels);
@@ -70,15 +66,15 @@ StripPlaces StripPlacesIn(int width, int height, float scale) {
   StripPlaces places;
   // What is larger stands in the middle, and so does what does not grow beside it.
   const bool isLarge = scale > 1;
-  places.labelHeight = Scaled(15, scale);
+  places.labelHeight = ScaledLength(15, scale);
   places.labelTop = isLarge ? std::max((height - places.labelHeight) / 2, 0) : kTop;
   const int buttonTop = isLarge ? std::max((height - kButtonHeight) / 2, 0) : kTop;
-  const int wordWidth = Scaled(30, scale);
+  const int wordWidth = ScaledLength(30, scale);
   places.first = {0, buttonTop, kButtonWidth, kButtonHeight};
   places.last = {width - kButtonWidth, buttonTop, kButtonWidth, kButtonHeight};
   places.previous = {27, places.labelTop, wordWidth, places.labelHeight};
   places.next = {width - 32 - wordWidth, places.labelTop, wordWidth, places.labelHeight};
-  places.dotsLeft = Scaled(kEdge, scale);
+  places.dotsLeft = ScaledLength(kEdge, scale);
   places.dotsRight = width - places.dotsLeft;
   places.dotsY = isLarge ? height / 2 : height - 10;
   return places;

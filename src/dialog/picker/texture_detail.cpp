@@ -17,7 +17,7 @@
 namespace tarnwick {
 namespace {
 
-constexpr int kSelect = 998;
+constexpr int kSelectButton = 998;
 constexpr INT_PTR kChosen = 1, kClosed = 2;
 constexpr int kFrameWidth = 3;
 constexpr int kAfterLabel = 4;
@@ -150,7 +150,7 @@ class DetailWindow {
   }
 
   void Command(int command) {
-    if (command == IDOK || command == kSelect) EndDialog(window_, kChosen);
+    if (command == IDOK || command == kSelectButton) EndDialog(window_, kChosen);
     if (command == IDCANCEL || command == TARNWICK_DETAIL_CLOSE) EndDialog(window_, kClosed);
   }
 

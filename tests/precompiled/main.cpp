@@ -1,0 +1,4 @@
+// Stands for all test programs while their headers are read.
+int main() {
+  return 0;
+}
