@@ -69,8 +69,10 @@ PickerBands BandsOf(const Place& frame, int clientWidth, int clientHeight, int d
   const int height = OnScreen(kBandHeight, dpi);
   const int upper = frame.y - height;
   const int lower = bottom + OnScreen(kBelowFrame, dpi);
-  return {PlaceBetween(frame.x, upper, right, frame.y), PlaceBetween(frame.x, lower, right, lower + height),
-          PlaceBetween(0, 0, clientWidth, upper), PlaceBetween(0, lower + height, clientWidth, clientHeight)};
+  return {PlaceBetween(frame.x, upper, right, frame.y),
+          PlaceBetween(frame.x, lower, right, lower + height),
+          PlaceBetween(0, 0, clientWidth, upper),
+          PlaceBetween(0, lower + height, clientWidth, clientHeight)};
 }
 
 DetailPlaces DetailPlacesIn(int clientWidth, int clientHeight, int dpi, float scale) {
