@@ -61,7 +61,14 @@ endfunction()
 # For targets of many small sources, which else spend half their time on these. Not
 # with GCC, which then warns of what it finds in the library itself.
 function(tarnwick_precompile)
-  if(NOT TARNWICK_PCH OR NOT CMAKE_CXX_COMPILER_ID MATCHES "Clang")
+  if(CMAKE_CXX_COMPILER_ID MATCHES "Clang")
+    tarnwick_precompile_all(${ARGN})
+  endif()
+endfunction()
+
+# With any compiler: for targets in which it does not.
+function(tarnwick_precompile_all)
+  if(NOT TARNWICK_PCH)
     return()
   endif()
   foreach(target ${ARGN})
