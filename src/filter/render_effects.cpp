@@ -7,10 +7,10 @@
 #include "engine/picture_io.h"
 #include "engine/render_layers.h"
 #include "engine/render_pipeline.h"
-#include "environment/platform_calls.h"
 #include "filter/box_alerts.h"
 #include "filter/host_colors.h"
 #include "filter/host_rects.h"
+#include "filter/image_mode.h"
 #include "filter/layer_passes.h"
 #include "filter/pass_through.h"
 #include "filter/picture_job.h"
@@ -29,11 +29,6 @@ class HostProgress : public ProgressSink {
  private:
   host::ProgressProc progress_;
 };
-
-bool IsSupported(std::int16_t mode) {
-  return mode == host::plugInModeRGBColor || mode == host::plugInModeRGB48 ||
-         mode == host::plugInModeCMYKColor || mode == host::plugInModeCMYK64;
-}
 
 void BeginState(FilterGlobals& g, const PictureJob& job, Progress progress) {
   RenderState& state = g.render;
@@ -138,11 +133,7 @@ void CopyInputToOutput(const PictureJob& job) {
 
 void RenderEffects(FilterGlobals& g) {
   const host::FilterRecord& record = *g.gFilterRecord;
-  if (!IsSupported(record.imageMode)) {
-    *g.gResult = host::userCanceledErr;
-    ShowWarningBox("This Mode is Not Supported by the Plug-in");
-    return;
-  }
+  if (!CheckImageMode(g)) return;
   PictureJob job = JobOf(record, GetOutRect(record));
   if (!IsRenderable(job) || job.in == nullptr || job.out == nullptr) {
     *g.gResult = host::filterBadParameters;

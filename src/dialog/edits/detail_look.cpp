@@ -1,5 +1,6 @@
 #include "dialog/edits/detail_look.h"
 
+#include <new>
 #include <utility>
 
 #include "dialog/edits/active_effect.h"
@@ -48,10 +49,14 @@ class TextureBack {
     EffectLayer& layer = *Slot().layer;
     layer.offsetX = offsetX_;
     layer.offsetY = offsetY_;
-    (void)target_.Cancel();
+    try {
+      (void)target_.Cancel();
+    } catch (const std::bad_alloc&) {
+      // Its layer stays with the tried texture; the record below does not.
+    }
     *g_.gParams = settings_;
     EffectViews views = views_;
-    preview_.Render(views.Current());
+    preview_.Render(views.Current(), PreviewBar::kKept);
     *g_.gParams = settings_;
     *g_.gResult = result_;
   }
@@ -84,7 +89,7 @@ ThumbnailPicture LookAtTexture(FilterGlobals& g, LivePreview& preview, const Eff
   if (name != std::string_view(slot.fileName)) back.Try(name);
   EffectViews copy = views;
   const ViewMode view = copy.Current();
-  preview.Render(view == ViewMode::kOriginal ? ViewMode::kComposite : view);
+  preview.Render(view == ViewMode::kOriginal ? ViewMode::kComposite : view, PreviewBar::kKept);
   return CentreOf(PictureOf(preview.BuildPaneImage(preview.Zoom().proxy)), size);
 }
 

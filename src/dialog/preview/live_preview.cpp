@@ -13,14 +13,10 @@
 #include "filter/document_pixels.h"
 #include "filter/document_queries.h"
 #include "filter/host_rects.h"
+#include "filter/image_mode.h"
 
 namespace tarnwick {
 namespace {
-
-bool IsSupported(std::int16_t mode) {
-  return mode == host::plugInModeRGBColor || mode == host::plugInModeRGB48 ||
-         mode == host::plugInModeCMYKColor || mode == host::plugInModeCMYK64;
-}
 
 // Window procedures call all of this: what lacks memory is left out.
 template <typename Work>
@@ -155,17 +151,14 @@ void LivePreview::Pan(int shiftX, int shiftY) {
   (void)Show({});
 }
 
-void LivePreview::Render(ViewMode view) {
+void LivePreview::Render(ViewMode view, PreviewBar bar) {
   EffectSettings& settings = *g_.gParams;
   RenderState& state = g_.render;
   settings.LinkNewBackground = 0;
   settings.LinkNewSurface = 0;
   settings.LinkNewLayer = 0;
   settings.LinkNewWash = 0;
-  if (!IsSupported(g_.gFilterRecord->imageMode)) {
-    *g_.gResult = host::userCanceledErr;
-    return;
-  }
+  if (!CheckImageMode(g_)) return;
   *g_.gResult = host::noErr;
   WithinMemory(g_, [&] {
     if (view == ViewMode::kOriginal) {
@@ -175,8 +168,11 @@ void LivePreview::Render(ViewMode view) {
       pixels_.WriteRender(g_);
     }
   });
+  // A preview has no pass to come that would take it.
+  state.surfaceSave.Free();
+  state.keepSurfaceSave = false;
   state.progress.base = 0;
-  state.progress.Report(0);
+  if (bar == PreviewBar::kCleared) state.progress.Report(0);
 }
 
 PanePicture LivePreview::BuildPaneImage(PaneSize pane) const {

@@ -19,6 +19,9 @@ namespace tarnwick {
 // The dialog's pages, as the tab control counts them.
 enum class EffectPage : std::uint8_t { kBasic = 0, kWash = 1, kSurface = 2, kBackground = 3 };
 
+// What a render leaves in the bar below the pane: the picker has it for itself.
+enum class PreviewBar : std::uint8_t { kCleared, kKept };
+
 // What the pane is to show; see BuildPaneImage.
 struct PanePicture {
   int imageX = 0, imageY = 0;  // margin of a picture smaller than the pane
@@ -84,8 +87,9 @@ class LivePreview {
   void PropagateLinks(LayerKind kind);
 
   // Renders `view` of what is shown; only what is stale is computed. Clears the
-  // markers of new layers, and *g.gResult unless the document's mode is unsupported.
-  void Render(ViewMode view);
+  // markers of new layers, and *g.gResult unless the document's mode is unsupported,
+  // which a box tells.
+  void Render(ViewMode view, PreviewBar bar = PreviewBar::kCleared);
 
   // The last Render as the pane shows it.
   [[nodiscard]] PanePicture BuildPaneImage(PaneSize pane) const;

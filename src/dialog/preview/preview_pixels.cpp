@@ -180,6 +180,13 @@ void PreviewPixels::WriteRender(const FilterGlobals& g) {
 
 void PreviewPixels::WriteOriginal(FilterGlobals& g) {
   if (result_.empty()) return;
+  RenderState& state = g.render;
+  const bool areInks = state.isCmyk && HostRowConverter(g.gBasicSuite).IsThere();
+  if (areInks && state.outputPixels && state.sourcePixels.Size() == state.outputPixels.Size()) {
+    // The way of a rendered view: as they stand, black would pass for transparency.
+    std::memcpy(state.outputPixels.Data(), state.sourcePixels.Data(), state.sourcePixels.Size());
+    return WriteRender(g);
+  }
   PictureJob job = JobOf(*g.gFilterRecord, GetInRect(*g.gFilterRecord));
   job.planes = planes_;
   job.out = result_.data();

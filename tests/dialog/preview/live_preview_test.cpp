@@ -89,6 +89,24 @@ TEST(LivePreview, ShowsFlatDocumentsInEachMode) {
   }
 }
 
+// As above, with a transparency of its own and another layer below it: its black is none.
+TEST(LivePreview, TakesNoInkForTransparency) {
+  Document document = FlatDocument("cmyk", 8, 7, {255, 255, 255, 255, 255});
+  testhost::Layer inks = FlatDocument("cmyk", 8, 7, {200, 100, 50, 128, 51}).layers[0];
+  inks.name = "Inks";
+  document.layers.push_back(inks);
+  document.target = 1;
+  PreviewStage stage(document);
+  NameNoTextures(stage.settings);
+  stage.Open({8, 7});
+  for (const ViewMode view : {ViewMode::kOriginal, ViewMode::kComposite, ViewMode::kOriginal}) {
+    const Pnm shown = stage.Shown(view, {8, 7});
+    ASSERT_EQ(shown.samples.size(), 8U * 7 * 3);
+    EXPECT_EQ(std::vector<std::uint8_t>(shown.samples.begin(), shown.samples.begin() + 3),
+              (std::vector<std::uint8_t>{100, 50, 25}));
+  }
+}
+
 // Under a clear layer lies a picture: the pane shows every second pixel of it.
 TEST(LivePreview, ShowsWhatLiesBelow) {
   constexpr PaneSize kPane = {24, 20};
@@ -136,6 +154,9 @@ TEST(LivePreview, ReportsUpwardsAndThenNothing) {
   sink.done.pop_back();
   EXPECT_EQ(sink.done.back(), 100);
   EXPECT_TRUE(std::is_sorted(sink.done.begin(), sink.done.end()));
+  // Whoever has the bar for himself finds it as the render left it.
+  stage.preview->Render(ViewMode::kComposite, PreviewBar::kKept);
+  EXPECT_GT(sink.done.back(), 0);
 }
 
 // A host sample of 16 bits is read as two bytes by the render, and as what it is by the
