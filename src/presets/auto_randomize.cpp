@@ -24,8 +24,9 @@ constexpr std::uint32_t kDrawerSeed = 12345678;
 std::string SpelledIn(const fs::path& folder, const std::string& name) {
   std::error_code error;
   if (fs::exists(folder / PathOfName(name), error)) return name;
-  for (const fs::directory_entry& entry : fs::directory_iterator(folder, error)) {
-    std::string found = NameOfPath(entry.path().filename());
+  for (fs::directory_iterator entry(folder, error), end; !error && entry != end;
+       entry.increment(error)) {
+    std::string found = NameOfPath(entry->path().filename());
     if (EqualIgnoringCase(found, name)) return found;
   }
   return name;
@@ -80,7 +81,7 @@ class Thrower {
   }
 
   void ThrowTexture(char (&name)[kTextureNameSize]) {
-    const int index = RandomDrawerEntry(library_.textures.size(), library_.seconds(), dice_);
+    const int index = RandomRecord(library_.textures.size(), library_.seconds(), dice_);
     StoreTextureName(
         name, index < 0 ? kNoTextureName : library_.textures[static_cast<std::size_t>(index)]);
   }
@@ -90,7 +91,7 @@ class Thrower {
     // Thrown in any case: what follows must not hang on the group.
     const bool wanted = dice_.Below(100) < kColorPercent;
     if (!wanted || library_.colors.empty() || groupIsOn == 0) return {};
-    const int index = RandomDrawerEntry(library_.colors.size(), library_.seconds(), dice_);
+    const int index = RandomRecord(library_.colors.size(), library_.seconds(), dice_);
     return library_.colors[static_cast<std::size_t>(index)];
   }
 
@@ -148,7 +149,7 @@ AutoThrow AutoRandomize(const AutoLibrary& library, EffectSettings& settings,
   return Thrower(library, settings, session).Run();
 }
 
-int RandomDrawerEntry(std::size_t count, std::uint32_t seconds, AutoDice& dice) {
+int RandomRecord(std::size_t count, std::uint32_t seconds, AutoDice& dice) {
   dice.Seed(seconds * kDrawerSeed);
   return count == 0 ? -1 : dice.Below(static_cast<int>(count));
 }

@@ -47,6 +47,6 @@ AutoThrow AutoRandomize(const AutoLibrary& library, EffectSettings& settings,
 // An entry of a drawer, as its own button for chance draws it: the dice are
 // seeded anew by the clock first, so that two draws within a second agree. -1,
 // and still seeded, from an empty list.
-[[nodiscard]] int RandomDrawerEntry(std::size_t count, std::uint32_t seconds, AutoDice& dice);
+[[nodiscard]] int RandomRecord(std::size_t count, std::uint32_t seconds, AutoDice& dice);
 
 }  // namespace tarnwick

@@ -125,6 +125,7 @@ void TextureCatalogue::Build(const std::string& folderName, std::span<const std:
   folder = WithoutSeparator(folderName);
   records = ListTextures(folder, names, FirstTexture::kSwap);
   ApplyFilters(filter, sets);
+  currentIndex = 0;
 }
 
 void TextureCatalogue::ApplyFilters(const TextureFilter& filter, const TextureSetTable& sets) {

@@ -34,14 +34,10 @@ TEST(PageValues, SeedsKeepTheirSign) {
   EXPECT_EQ(SeedOf(1000), 0);
 }
 
-TEST(PageValues, TextsOfNumbersAndNames) {
+TEST(PageValues, TextsOfNumbers) {
   EXPECT_EQ(WholeText(-100), "-100");
   EXPECT_EQ(AngleText(58.0F), "58.00");
   EXPECT_EQ(AngleText(12.345F), "12.35");
-  EXPECT_EQ(TextureTitle("General_Store.twk"), "General_Store");
-  EXPECT_EQ(TextureTitle("Loud.TWK"), "Loud");
-  EXPECT_EQ(TextureTitle("twk"), "twk");
-  EXPECT_EQ(TextureTitle("a.twk.png"), "a.twk.png");
 }
 
 // Range 80 by 40: the ball's right is no offset along x, its left is all of it; its foot

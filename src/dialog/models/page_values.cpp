@@ -38,18 +38,6 @@ std::string AngleText(float value) {
   return text;
 }
 
-std::string TextureTitle(std::string_view fileName) {
-  constexpr std::string_view kExtension = ".twk";
-  std::string title(fileName);
-  if (title.size() < kExtension.size()) return title;
-  const std::size_t stem = title.size() - kExtension.size();
-  const bool isTexture = std::equal(
-      kExtension.begin(), kExtension.end(), title.begin() + static_cast<std::ptrdiff_t>(stem),
-      [](char a, char b) { return a == (b >= 'A' && b <= 'Z' ? b + 32 : b); });
-  if (isTexture) title.resize(stem);
-  return title;
-}
-
 OffsetPoint OffsetOfBall(BallOffset ball, TextureOffset range) {
   const auto along = [](float share, std::int32_t length) {
     return share * static_cast<float>(length) / 200.0F;

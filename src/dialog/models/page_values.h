@@ -28,9 +28,6 @@ inline constexpr std::int32_t kSeeds = 1000;
   return typed % kSeeds;
 }
 
-// A texture's name without its extension.
-[[nodiscard]] std::string TextureTitle(std::string_view fileName);
-
 // How far the ball says that a texture has gone, and the other way round; pixels of the
 // texture, up to `range`. A texture that cannot move leaves the ball in the middle.
 struct TextureOffset {

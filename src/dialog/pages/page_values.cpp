@@ -6,6 +6,7 @@
 #include "dialog/pages/settings_page.h"
 #include "dialog/presets/preset_library.h"
 #include "engine/texture_offset.h"
+#include "textures/texture_record.h"
 
 namespace tarnwick {
 namespace {
@@ -53,7 +54,7 @@ void SettingsPage::ShowRow(const ControlRow& row) {
     case RowKind::kTexture: {
       const EffectSettings& settings = *context_.g.gParams;
       const char* const name = TextureNameOf(tab_, context_.views, settings);
-      SetDlgItemTextA(window_, row.id, TextureTitle(name).c_str());
+      SetDlgItemTextA(window_, row.id, TextureDisplayName(name).c_str());
       break;
     }
     case RowKind::kColors:
