@@ -41,6 +41,7 @@ HelpViewer::HelpViewer(HWND owner, std::string helpFolder, PageOpener opener)
 
 void HelpViewer::OpenHelp(int code) {
   code_ = code;
+  if (helpFolder_.empty()) return;  // where the module is unknown
   OpenFile(helpFolder_ + HelpPageOf(code));
 }
 
@@ -65,6 +66,7 @@ DWORD WINAPI HelpViewer::Launch(void* viewer) {
 }
 
 void HelpViewer::OpenExamples() {
+  if (helpFolder_.empty()) return;
   try {
     opener_(owner_, helpFolder_ + kExamplesPage);
   } catch (...) {

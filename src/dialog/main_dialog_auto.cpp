@@ -20,7 +20,7 @@ void MainDialog::ThrowLook() {
     PlaySoundResource(instance_, kAutoSound);
   }
   // A field that still waits for its timer would write into the new look.
-  if (pages_) pages_->FinishSpins();
+  if (pages_) pages_->FlushSpins();
   const AutoThrow thrown = AutoRandomize(
       AutoLibraryOf(g_.folders.presetFolder, drawerLists_, Seconds), *g_.gParams, PresetsOf(g_));
   if (drawers_) {
@@ -28,8 +28,9 @@ void MainDialog::ThrowLook() {
     drawers_->NameColors(thrown.backgroundColors);
   }
   if (preview_) preview_->RemakeLayers({});
-  UpdatePage(PageUpdate::kShowSettings);
+  // First: what a page enables, and which effects are in use, hangs on the view.
   SyncStrip();
+  UpdatePage(PageUpdate::kShowSettings);
   ShowOptions();
   SendMessageA(window_, WM_COMMAND, kSettingsChanged, 0);
 }

@@ -230,13 +230,13 @@ void MainDialog::SetZoomButtons(ZoomButtons buttons) {
   const HWND zoomIn = Item(kZoomIn);
   const HWND zoomOut = Item(kZoomOut);
   const HWND focus = GetFocus();
+  const bool isOnZoom = focus != nullptr && (focus == zoomIn || focus == zoomOut);
+  // While a drawer is open OK and Cancel are of no use, nor are Enter and Escape elsewhere.
+  const bool isTaken = isOnZoom && drawers_ && drawers_->TakeFocus();
   // A disabled control would keep the keys to itself, Enter and Escape among them.
-  if (focus != nullptr &&
+  if (!isTaken && isOnZoom &&
       ((focus == zoomIn && !buttons.canZoomIn) || (focus == zoomOut && !buttons.canZoomOut))) {
-    // OK is of no use either while a drawer is open.
-    if (!drawers_ || !drawers_->TakeFocus()) {
-      SendMessageA(window_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Item(IDOK)), TRUE);
-    }
+    SendMessageA(window_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Item(IDOK)), TRUE);
   }
   EnableWindow(zoomIn, buttons.canZoomIn ? TRUE : FALSE);
   EnableWindow(zoomOut, buttons.canZoomOut ? TRUE : FALSE);

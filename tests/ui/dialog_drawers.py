@@ -175,10 +175,11 @@ def all_else_is_busy(run):
     # Clicks on what is busy do nothing.
     for number in (1, 504):
         drawer.page.click(dialog[number])
-    # A zoom as far as it goes takes the keys from the button, which is of no use then.
+    # The keys stay with the drawer, whether the button goes on being of use or not.
     for _ in range(4):
         if dialog[1001].look().enabled:
             drawer.page.click(dialog[1001])
+            drawer.window.wait_focus()
     wait_for(lambda: not dialog[1001].look().enabled, "it can be enlarged for ever")
     run.screen.key("Escape")
     drawer.wait_gone()
@@ -328,7 +329,10 @@ def by_keys_alone(run):
     # And back: nothing was changed the second time.
     run.screen.key("space")
     wait_for(lambda: drawer.look().visible, "no drawer comes again")
-    run.screen.key("Right", "Escape")
+    run.screen.key("Right", "Tab")
+    sets = next(one for one in drawer.children() if one.id == SETS)
+    sets.wait_focus()
+    run.screen.key("Escape")
     wait_for(lambda: not drawer.look().visible, "the drawer stays")
     page[1077].wait_focus()
     wait_settings(dialog, {"WashFileName1": "A10.twk"})
@@ -366,8 +370,9 @@ def it_grows_with_the_window(run):
 
 @scenario()
 def an_equal_texture_is_offered_to_be_linked(run):
-    """And the keys belong to the dialog after that."""
-    dialog = run.open(width=303, height=221, after=["expect error -128"])
+    """It is shown at once, and the keys belong to the dialog after that."""
+    dialog = run.open(width=303, height=221, before=["settings SurfaceFlipHor1 1"],
+                      after=["expect error -128"])
     drawer = open_textures(dialog, 1)
     names = ["Battleship", "Colour", "Damaged", "Dot", "Fiberglass", "General_Store"]
     while drawer[LEFT].look().visible:
@@ -381,5 +386,7 @@ def an_equal_texture_is_offered_to_be_linked(run):
     offer.answer("&Yes")
     wait_for(lambda: drawer.page[2000].look().checked, "it is not linked")
     drawer.wait_gone()
+    wait_settings(dialog, {"WashFileName1": "Battleship.twk", "WashFlipHor1": 1,
+                           "SurfaceFlipHor1": 1})
     run.screen.key("Escape")
     run.finish()

@@ -2,7 +2,8 @@
 
 The scenarios' own textures are each of one grey, by which a cell tells what it shows.
 """
-from dialog_drawers import TEXTURE, texture
+from dialog_drawers import CANCEL as DRAWER_CANCEL, LEFT, LIVE as DRAWER_LIVE, TEXTURE, \
+    open_textures, texture
 from dialog_help import Help
 from dialog_links import words
 from dialog_pages import Page, expectations
@@ -316,6 +317,32 @@ def a_live_preview_and_its_details(run):
     # Rendered anew, too.
     Page(dialog, 2)
     dialog.wait_pane(before)
+    dialog.cancel()
+
+
+@scenario()
+def a_relief_is_as_deep_as_the_other_surface(run):
+    """Odd, and kept: where that has no depth all textures look alike. Not in the drawer."""
+    dialog = run.open(width=303, height=221, after=UNTOUCHED,
+                      before=["settings SurfaceDepth1 100 SurfaceDepth2 0"])
+    picker = Picker(dialog, 2)
+    run.screen.key("Home")
+    picker.set_live(True)
+
+    def pictures(cells):
+        return {one.picture().crop(12, 12, 72, 52).rgb() for one in cells}
+    shown = picker.cells[3:6]  # Dot, Fiberglass, General_Store
+    wait_for(lambda: len(pictures(shown)) == 1, "textures differ")
+    picker.set_live(False)
+    wait_for(lambda: len(pictures(shown)) == 3, "textures do not differ")
+    picker.click(picker[CANCEL])
+    picker.wait_gone()
+    drawer = open_textures(dialog, 2)
+    while drawer[LEFT].look().visible:
+        drawer[LEFT].click()
+    drawer.click(DRAWER_LIVE)
+    wait_for(lambda: len(pictures(drawer.cells[4:7])) == 3, "textures do not differ in the drawer")
+    drawer.leave(DRAWER_CANCEL)
     dialog.cancel()
 
 

@@ -3,6 +3,7 @@
 #include <commctrl.h>
 
 #include <cstring>
+#include <new>
 #include <utility>
 #include <vector>
 
@@ -12,7 +13,9 @@
 #include "dialog/edits/detail_look.h"
 #include "dialog/models/drawer_panel.h"
 #include "dialog/picker/texture_picker.h"
+#include "environment/platform_calls.h"
 #include "presets/color_list.h"
+#include "presets/color_preset.h"
 #include "textures/texture_set_table.h"
 #include "textures/texture_thumbnail.h"
 
@@ -138,7 +141,7 @@ void DialogDrawers::Closed() {
 // Behind a box that asks something nothing takes the keys: then it is due after that.
 void DialogDrawers::GiveFocusBack() {
   if (focusBefore_ == nullptr || OpenOne() != nullptr) return;
-  if (IsWindowEnabled(textures_->owner) == FALSE) return;
+  if (IsWindowEnabled(owner_) == FALSE) return;
   const HWND focus = std::exchange(focusBefore_, nullptr);
   if (IsWindowVisible(focus) != FALSE && IsWindowEnabled(focus) != FALSE) SetFocus(focus);
 }
@@ -182,8 +185,13 @@ void DialogDrawers::OpenFullSize(int tab) {
   picker.kind = kind;
   picker.helpFolder = g_.folders.helpFolder;
   picker.sets = TextureSets();
-  picker.Build(g_.folders.dataFolder, ScanTextureNames(PathOfName(g_.folders.dataFolder)), {},
-               picker.sets);
+  try {
+    picker.Build(g_.folders.dataFolder, ScanTextureNames(PathOfName(g_.folders.dataFolder)), {},
+                 picker.sets);
+  } catch (const std::bad_alloc&) {
+    ShowAlertBox("Cannot allocate memory in TPicker::InitWSHList", owner_);
+    return DoTextureWork(texture_.Cancel());
+  }
   picker.hooks = {[&](ThumbnailSize size) {
                     // What is missing is told over the picker.
                     g_.ownerWindow = picker.dialog;
@@ -203,6 +211,7 @@ void DialogDrawers::OpenFullSize(int tab) {
   g_.ownerWindow = owner_;
   // The drawers count on their own size.
   cellPreview_.SetSize(kDrawerThumbnail);
+  bar_.Report(0, 0);
   if (!picker.isAccepted) return DoTextureWork(texture_.Cancel());
   if (picker.selectedName != name) DoTextureWork(texture_.Try(picker.selectedName));
   DoTextureWork(texture_.Accept(picker.selectedName));
@@ -279,22 +288,20 @@ void DialogDrawers::ColorTold(WORD notification) {
   if (work.showPage) hooks_.showPage();
   if (work.settingsChanged) hooks_.settingsChanged();
   if (work.clearProgress) bar_.Report(0, 0);
+  if (work.closeDrawer) GiveFocusBack();
 }
 
-// A look at the preset's colours leaves those that were loaded before.
+// Of the file nothing but its tones is taken, whatever else may be in it.
 std::optional<ThumbnailPicture> DialogDrawers::ColorPicture(const std::string& name) {
   if (!colorSource_ || color_.Target() == ColorTargetKind::kNone) return std::nullopt;
   const bool isSurface = color_.Target() == ColorTargetKind::kSurface;
-  PresetSession& session = PresetsOf(g_);
-  const PresetSession before = session;
-  const bool isRead = presets_.LoadPreset(
-      name, isSurface ? PresetKind::kSurfaceColor : PresetKind::kBackgroundColor);
-  const CellTones tones = {session.PresetHighlightColor, session.PresetMidtoneColor,
-                           session.PresetShadowColor};
-  session.PresetHighlightColor = before.PresetHighlightColor;
-  session.PresetMidtoneColor = before.PresetMidtoneColor;
-  session.PresetShadowColor = before.PresetShadowColor;
-  if (!isRead) return std::nullopt;
+  const PresetKind kind = isSurface ? PresetKind::kSurfaceColor : PresetKind::kBackgroundColor;
+  ColorPreset colors;
+  if (LoadColorPreset(PathOfName(presets_.Folders().File(kind, PresetNameOf(name))), colors) !=
+      PresetLoad::kLoaded) {
+    return std::nullopt;
+  }
+  const CellTones tones = {colors.highlight, colors.midtone, colors.shadow};
   return cellPreview_.PreviewColors(isSurface ? CellTarget::kSurface : CellTarget::kBackground,
                                     views_, *colorSource_, tones);
 }
@@ -337,7 +344,7 @@ DrawerLists DialogDrawers::Lists() {
       [this] {
         std::vector<std::string> names;
         for (int i = 0; colors_ && i < colors_->List().ShownCount(); ++i) {
-          names.push_back(colors_->List().DisplayName(i));
+          names.emplace_back(PresetNameOf(colors_->List().DisplayName(i)));
         }
         return names;
       }};

@@ -5,6 +5,7 @@
 #include "controls/control_classes.h"
 #include "controls/image_control.h"
 #include "controls/tool_tip.h"
+#include "dialog/drawers/drawer_box_keys.h"
 #include "dialog/drawers/drawer_ids.h"
 #include "dialog/drawers/drawer_picker.h"
 #include "dialog/models/drawer_places.h"
@@ -87,6 +88,7 @@ HWND TDrawerPicker::MakeBox(int controlId, int left, int top, int w, int h, cons
       top, w, h, window, MenuOf(controlId), SharedControls().instance, nullptr);
   UseFont(box, SharedControls().fonts.FontSmallBold);
   AddToolTip(box, tip, nullptr);
+  PassKeysToParent(box);
   return box;
 }
 

@@ -21,6 +21,7 @@ std::string WithSeparator(std::string folder) {
 // Files with this ending, in the system's order.
 std::vector<std::string> FilesIn(const std::string& folder, std::string_view ending) {
   std::vector<std::string> names;
+  if (folder.empty()) return names;  // where the module is unknown
   for (FolderEntry& entry : ListFolder(WithSeparator(folder))) {
     const std::string_view name = entry.name;
     if (!entry.isFolder && name.size() > ending.size() &&
@@ -81,7 +82,7 @@ bool TDrawerPicker::Command(int controlId, WORD notification) {
   switch (controlId) {
     case kDrawerSetBox:
     case kDrawerEffectBox:
-      if (notification == CBN_SELCHANGE) FilterChanged(controlId);
+      if (notification == CBN_SELCHANGE) FilterChanged();
       // So that the keys go on to the cells.
       if (notification == CBN_CLOSEUP) SetFocus(window);
       return true;
@@ -179,7 +180,7 @@ void TDrawerPicker::LoadPage() {
   ShowPageButtons();
 }
 
-void TDrawerPicker::FilterChanged(int controlId) {
+void TDrawerPicker::FilterChanged() {
   const auto rowOf = [](HWND box) {
     return box != nullptr ? static_cast<int>(SendMessageA(box, CB_GETCURSEL, 0, 0)) : 0;
   };
@@ -191,7 +192,6 @@ void TDrawerPicker::FilterChanged(int controlId) {
   } else {
     list_.FilterTextures({rowOf(setBox_), rowOf(effectBox_)});
   }
-  (void)controlId;
   LoadPage();
 }
 

@@ -91,7 +91,7 @@ class TDrawerPicker : public TDrawerWindow {
 
   LRESULT Handle(HWND target, UINT message, WPARAM wParam, LPARAM lParam);
   bool Command(int controlId, WORD notification);
-  void FilterChanged(int controlId);
+  void FilterChanged();
   void TurnPage(int step);
   bool Key(WPARAM key);
   void MoveSelection(int step);

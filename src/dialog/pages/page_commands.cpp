@@ -51,7 +51,7 @@ bool SettingsPage::Command(WPARAM wParam, LPARAM lParam) {
       return RowCommand(row, id, notification);
     }
   }
-  if (notification == LBN_SELCHANGE) FinishSpin();
+  if (notification == LBN_SELCHANGE) FlushSpin();
   return context_.presets.Command(window_, wParam);
 }
 
@@ -315,9 +315,11 @@ void SettingsPage::TextureChosen() {
     if (row.kind == RowKind::kTexture) ShowRow(row);
   }
   const TextureMatches matches = context_.edits.Update();
-  if (HasMatch(KindOfTab(tab_), matches)) (void)OfferLink(matches);
+  const bool isLinked = HasMatch(KindOfTab(tab_), matches) && OfferLink(matches);
   ShowOffset();
   Enable();
+  // The texture itself has been rendered as it was tried.
+  if (isLinked) Changed();
 }
 
 }  // namespace tarnwick

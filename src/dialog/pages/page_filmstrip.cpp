@@ -13,7 +13,7 @@ constexpr int kColorGroup = 2121;
 void SettingsPage::MakeFilmstrip() {
   film_ = std::make_unique<TFilmstripControl>(
       context_.g, context_.presets, context_.bitmaps,
-      FilmstripHooks{[this] { FinishSpin(); }, [this] { context_.showAll(); },
+      FilmstripHooks{[this] { FlushSpin(); }, [this] { context_.showAll(); },
                      [this] { context_.fail(); }});
   film_->ScanPresets(PresetKind::kBackPalette);
   film_->AttachToDialogItem(window_, kFilmstrip);

@@ -93,4 +93,10 @@ void SettingsPage::FinishSpin() {
   if (row->isLinked) ShowOffset();
 }
 
+void SettingsPage::FlushSpin() {
+  if (spinTimer_ == 0) return;
+  FinishSpin();
+  Changed();
+}
+
 }  // namespace tarnwick

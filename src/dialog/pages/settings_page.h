@@ -44,6 +44,9 @@ class SettingsPage {
   // The work that a click on an up-down has put off, now: what it was for is about to
   // change. The redraw comes in its time.
   void FinishSpin();
+  // That and the redraw, which takes the settings as they are for the last used: something
+  // is about to replace them.
+  void FlushSpin();
 
   [[nodiscard]] HWND Window() const { return window_; }
   void Attach(HWND window);

@@ -62,4 +62,10 @@ void SettingsPages::FinishSpins() {
   }
 }
 
+void SettingsPages::FlushSpins() {
+  for (const auto& page : pages_) {
+    if (page) page->FlushSpin();
+  }
+}
+
 }  // namespace tarnwick

@@ -32,6 +32,8 @@ class SettingsPages {
   void ShowWashOffset();
   // Work that up-downs have put off, before the layers change.
   void FinishSpins();
+  // That and the redraw, before all settings change.
+  void FlushSpins();
 
  private:
   PageContext context_;

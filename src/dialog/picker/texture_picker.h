@@ -28,6 +28,7 @@ struct PickerHooks {
 struct TPicker : TextureCatalogue {
   TextureSetTable sets;
   LayerKind kind = LayerKind::kWash;  // what the texture is for
+  // In: what the session has. Out: what the user left, kept for good as the picker closes.
   bool livePreview = false;
   bool isAccepted = false;  // how the last one ended
   HWND dialog = nullptr;    // while one is open

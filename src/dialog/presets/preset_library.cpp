@@ -29,8 +29,9 @@ void PresetLibrary::Fill(HWND page, PresetKind kind) {
   if (list == nullptr) return;
   const std::string& subFolder = folders_.SubFolder(kind);
   SetDlgItemTextA(page, list->pathLabelId, subFolder.c_str());
-  FillPresetList(GetDlgItem(page, list->listId),
-                 PresetRows(kind, !subFolder.empty(), ListFolder(folders_.Folder(kind))));
+  std::vector<FolderEntry> entries;
+  if (IsThere()) entries = ListFolder(folders_.Folder(kind));
+  FillPresetList(GetDlgItem(page, list->listId), PresetRows(kind, !subFolder.empty(), entries));
   UpdateDeleteButton(page, *list);
 }
 
@@ -116,7 +117,7 @@ void PresetLibrary::Delete(HWND page, const PresetList& list) {
   const HWND box = GetDlgItem(page, list.listId);
   const int row = SelectedRow(box);
   const std::string name = SelectedText(box);
-  if (row < 0 || IsFolderRow(name)) return;
+  if (row < 0 || IsFolderRow(name) || !IsThere()) return;
   // The row goes even if the file stays.
   DeleteFileA(folders_.File(list.kind, name).c_str());
   SendMessageA(box, LB_DELETESTRING, static_cast<WPARAM>(row), 0);
@@ -130,8 +131,8 @@ void PresetLibrary::Save(PresetKind kind, HWND page) {
       AskPresetName(SharedControls().instance, Owner(), name,
                     [&](std::string_view typed) { return folders_.TopFile(kind, typed); });
   if (answer == NameAnswer::kCancelled) return;
-  if (SavePresetFile(PathOfName(folders_.File(kind, name)), kind, *g_.gParams, g_.session) !=
-      PresetSave::kSaved) {
+  if (!IsThere() || SavePresetFile(PathOfName(folders_.File(kind, name)), kind, *g_.gParams,
+                                   g_.session) != PresetSave::kSaved) {
     ShowAlertBox("Cannot Save File!", Owner());
     return;
   }
@@ -159,7 +160,7 @@ void PresetLibrary::ShowNewBackground() {
 }
 
 bool PresetLibrary::Read(std::string_view name, PresetKind kind) {
-  if (name.empty()) return false;
+  if (name.empty() || !IsThere()) return false;
   ForgetColorNames(kind, g_.session);
   const std::string file = folders_.File(kind, PresetNameOf(name));
   return LoadPresetFile(PathOfName(file), *g_.gParams, PresetsOf(g_)) == PresetLoad::kLoaded;

@@ -73,6 +73,8 @@ class PresetLibrary {
   void Open(HWND page, const PresetList& list);
   void Delete(HWND page, const PresetList& list);
   [[nodiscard]] bool Read(std::string_view name, PresetKind kind);
+  // Presets have a folder where the module's own is known.
+  [[nodiscard]] bool IsThere() const { return !g_.folders.presetFolder.empty(); }
   [[nodiscard]] HWND Owner() const { return static_cast<HWND>(g_.ownerWindow); }
 
   FilterGlobals& g_;
