@@ -9,7 +9,7 @@
 namespace tarnwick {
 namespace {
 
-using testing::UnorderedElementsAre;
+using ::testing::UnorderedElementsAre;
 
 const std::string kAutumn =
     "TarnwickStudi Press Preset;\n"

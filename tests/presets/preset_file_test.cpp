@@ -13,13 +13,13 @@ namespace tarnwick {
 namespace {
 
 namespace fs = std::filesystem;
-using testing::ElementsAre;
+using ::testing::ElementsAre;
 
-class PresetFile : public testing::Test {
+class PresetFile : public ::testing::Test {
  protected:
   void SetUp() override {
-    const std::string test = testing::UnitTest::GetInstance()->current_test_info()->name();
-    folder_ = fs::path(testing::TempDir()) / ("tarnwick preset " + test);
+    const std::string test = ::testing::UnitTest::GetInstance()->current_test_info()->name();
+    folder_ = fs::path(::testing::TempDir()) / ("tarnwick preset " + test);
     fs::remove_all(folder_);
     fs::create_directories(folder_);
   }

@@ -12,7 +12,7 @@
 namespace tarnwick {
 namespace {
 
-using testing::UnorderedElementsAreArray;
+using ::testing::UnorderedElementsAreArray;
 using Strings = std::vector<std::string>;
 
 // Defaults with both seconds on: the state that the cases below change.

@@ -10,7 +10,7 @@
 namespace tarnwick {
 namespace {
 
-using testing::UnorderedElementsAreArray;
+using ::testing::UnorderedElementsAreArray;
 using Names = std::vector<std::string>;
 
 // What a fresh block holds besides zeros.

@@ -13,8 +13,8 @@
 namespace tarnwick {
 namespace {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
 
 const std::string k123Bytes(123, 'n');
 
@@ -151,8 +151,8 @@ TEST(SettingsReference, Values) {
             "0 Erosion, 1 Stain, 2 Bleach, 3 Color");
   EXPECT_EQ(DescribeSettingValues(*FindSetting("WashInside1")), "0 or 1");
   EXPECT_THAT(SettingsReference(),
-              testing::HasSubstr("| `BackgroundHighlightColor` | #rrggbb | #ffc800 | `BHCl` |"));
-  EXPECT_THAT(SettingsHelp(), testing::Not(testing::HasSubstr("SavedWashMask")));
+              ::testing::HasSubstr("| `BackgroundHighlightColor` | #rrggbb | #ffc800 | `BHCl` |"));
+  EXPECT_THAT(SettingsHelp(), ::testing::Not(::testing::HasSubstr("SavedWashMask")));
 }
 
 TEST(NearNames, Distance) {
@@ -168,7 +168,7 @@ TEST(NearNames, Distance) {
 }
 
 TEST(NearNames, Candidates) {
-  EXPECT_THAT(NearSettingNames("WashScal1"), testing::Contains("WashScale1"));
+  EXPECT_THAT(NearSettingNames("WashScal1"), ::testing::Contains("WashScale1"));
   EXPECT_EQ(NearSettingNames("surfacehu").front(), "SurfaceHue");
   EXPECT_THAT(NearSettingNames("backgroundscale1"), ElementsAre("BackgroundScale"));
   EXPECT_THAT(NearSettingNames("perspective"), ElementsAre("SurfacePerspectiveOn"));
