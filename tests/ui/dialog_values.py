@@ -2,6 +2,7 @@
 
 All draws have fixed seeds: a failure comes again.
 """
+import os
 import random
 
 from dialog_pages import BOXES, CHOICES, DEFAULTS, GET_CHOICE, GET_POSITION, GET_TRACK, NUMBERS, \
@@ -12,6 +13,8 @@ from preset_files import LINKS, NONE, START, groups_of, preset
 from scenarios import equal, scenario
 from screen import Timeout, wait_for
 
+# In each of two documents.
+PRESETS = int(os.environ.get("TARNWICK_VALUE_PRESETS", 100))
 GET_ROW = 0x188
 TEXTURES = ["Scratched.twk", "Rusted.twk", "Battleship.twk", "General_Store.twk", "Solid.twk",
             "Tall.twk", "Wide.twk", "Dot.twk", NONE]
@@ -242,12 +245,12 @@ def show_presets(run, first, count, planes):
 
 @scenario()
 def presets_are_shown_as_they_are(run):
-    show_presets(run, 0, 100, 3)
+    show_presets(run, 0, PRESETS, 3)
 
 
 @scenario()
 def presets_are_shown_with_transparency(run):
-    show_presets(run, 100, 100, 4)
+    show_presets(run, 100, PRESETS, 4)
 
 
 # A walk over the controls
