@@ -2,21 +2,20 @@
 
 #include <utility>
 
-#include "controls/back_buffer.h"
 #include "controls/control_shared.h"
 #include "controls/control_window.h"
 #include "dialog/drawers/drawer_picker.h"
 #include "dialog/models/crossed_box.h"
+#include "dialog/thumbnail_cell.h"
 
 namespace tarnwick {
 namespace {
 
 // Of the thumbnail in the cell.
 constexpr int kOrigin = 5;
-// A rim of the panel shows round a cell.
-constexpr int kRim = 2;
 constexpr int kCaptionLeft = 5;
 constexpr int kCaptionAboveBottom = 17;
+constexpr int kCaptionGap = 3;  // on its right
 constexpr COLORREF kSelectedFrame = RGB(255, 215, 108);
 constexpr COLORREF kCaptionColor = RGB(200, 200, 200);
 constexpr COLORREF kHoveredCaption = RGB(255, 255, 255);
@@ -85,26 +84,16 @@ void TPickerThump2::Track(LPARAM lParam) {
 }
 
 void TPickerThump2::Paint() {
-  const BackBuffer buffer(window);
-  const HDC dc = buffer.Dc();
-  if (dc == nullptr) return;
   const ControlShared& shared = SharedControls();
-  FillRect(dc, &buffer.Client(), static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH)));
-  const RECT inner = {kRim, kRim, width - kRim, height - kRim};
-  FillRect(dc, &inner, pointerInside ? shared.hoveredCell : shared.idleCell);
-  (bitmap_ ? *bitmap_ : NoPicture(pointerInside)).Draw(dc, kOrigin, kOrigin);
-  if (isSelected_) {
-    const RECT frame = {kOrigin - 1, kOrigin - 1, kOrigin + kDrawerThumbnail.width + 1,
-                        kOrigin + kDrawerThumbnail.height + 1};
-    const HBRUSH brush = CreateSolidBrush(kSelectedFrame);
-    FrameRect(dc, &frame, brush);
-    DeleteObject(brush);
-  }
-  const Selected font(dc, shared.fonts.FontThumbCaption);
-  SetBkMode(dc, TRANSPARENT);
-  SetTextColor(dc, pointerInside ? kHoveredCaption : kCaptionColor);
-  RECT caption = {kCaptionLeft, height - kCaptionAboveBottom, width - kRim - 1, height};
-  DrawTextA(dc, caption_.c_str(), -1, &caption, DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS);
+  ThumbnailCellLook look;
+  look.ground = pointerInside ? shared.hoveredCell : shared.idleCell;
+  look.picture = bitmap_ ? &*bitmap_ : &NoPicture(pointerInside);
+  look.inset = kOrigin;
+  look.size = kDrawerThumbnail;
+  if (isSelected_) look.frame = kSelectedFrame;
+  look.captionPlace = {kCaptionLeft, height - kCaptionAboveBottom, width - kCaptionGap, height};
+  look.captionColor = pointerInside ? kHoveredCaption : kCaptionColor;
+  PaintThumbnailCell(window, look, caption_);
 }
 
 }  // namespace tarnwick

@@ -1,8 +1,14 @@
 #include "dialog/edits/active_effect.h"
 
+#include <cstring>
+
 #include "dialog/models/page_enable.h"
 
 namespace tarnwick {
+
+std::string LayerSlot::Name() const {
+  return {fileName, strnlen(fileName, kTextureNameSize)};
+}
 
 LayerSlot WashSlot(EffectLayers& layers, EffectSettings& s, bool second) {
   if (second) {

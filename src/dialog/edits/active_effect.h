@@ -1,6 +1,7 @@
 #pragma once
 #include <cstdint>
 #include <optional>
+#include <string>
 
 #include "dialog/models/effect_views.h"
 #include "engine/effect_layer.h"
@@ -19,6 +20,9 @@ struct LayerSlot {
   std::int32_t* offsetX = nullptr;
   std::int32_t* offsetY = nullptr;
   std::int32_t* angle = nullptr;
+
+  // The texture's file name.
+  [[nodiscard]] std::string Name() const;
 };
 
 [[nodiscard]] LayerSlot WashSlot(EffectLayers& layers, EffectSettings& settings, bool second);

@@ -1,7 +1,5 @@
 #include "dialog/edits/texture_target.h"
 
-#include <cstring>
-
 #include "dialog/edits/active_effect.h"
 #include "dialog/models/texture_matches.h"
 #include "settings/ascii_text.h"
@@ -18,10 +16,6 @@ TextureName& NameField(const LayerSlot& slot) {
   return *reinterpret_cast<TextureName*>(slot.fileName);
 }
 
-std::string NameIn(const LayerSlot& slot) {
-  return {slot.fileName, strnlen(slot.fileName, kTextureNameSize)};
-}
-
 }  // namespace
 
 std::string TextureTarget::Open(int tab) {
@@ -29,7 +23,7 @@ std::string TextureTarget::Open(int tab) {
   tab_ = slot ? tab : kBasicTab;
   if (!slot) return {};
   kind_ = slot->kind;
-  firstName_ = NameIn(*slot);
+  firstName_ = slot->Name();
   firstInvert_ = slot->layer->invert;
   return firstName_;
 }
@@ -39,7 +33,7 @@ void TextureTarget::Load(std::string_view name, std::uint8_t invert) {
   if (!slot) return;
   StoreTextureName(NameField(*slot), name);
   slot->layer->invert = invert;
-  (void)LoadTexture(*slot->layer, render_, TexturePath(render_.textureFolder, NameIn(*slot)));
+  (void)LoadTexture(*slot->layer, render_, TexturePath(render_.textureFolder, slot->Name()));
 }
 
 TextureWork TextureTarget::Try(std::string_view name) {
@@ -53,7 +47,7 @@ TextureWork TextureTarget::Accept(std::string_view name) {
   if (!IsOpen()) return {};
   const auto slot = ActiveSlot(tab_, views_, layers_, settings_);
   // What is selected has been tried by then, as a rule.
-  const bool isNew = slot && !name.empty() && NameIn(*slot) != name;
+  const bool isNew = slot && !name.empty() && slot->Name() != name;
   if (isNew) Load(name, slot->layer->invert);
   tab_ = kBasicTab;
   return {
@@ -63,7 +57,7 @@ TextureWork TextureTarget::Accept(std::string_view name) {
 TextureWork TextureTarget::Cancel() {
   if (!IsOpen()) return {};
   const auto slot = ActiveSlot(tab_, views_, layers_, settings_);
-  const bool isTried = slot && NameIn(*slot) != firstName_;
+  const bool isTried = slot && slot->Name() != firstName_;
   if (isTried) Load(firstName_, firstInvert_);
   tab_ = kBasicTab;
   return {.closeDrawer = true, .textureChosen = isTried, .settingsChanged = isTried};

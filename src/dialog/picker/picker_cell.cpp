@@ -2,10 +2,10 @@
 
 #include <utility>
 
-#include "controls/back_buffer.h"
 #include "controls/control_shared.h"
 #include "controls/control_window.h"
 #include "controls/tool_tip.h"
+#include "dialog/thumbnail_cell.h"
 #include "resources/art_ids.h"
 
 namespace tarnwick {
@@ -14,8 +14,6 @@ namespace {
 constexpr std::uint8_t kCellKind = 2;
 constexpr int kSelect = 998;
 constexpr int kDetail = 1000;
-// A rim of the grid shows round a cell.
-constexpr int kRim = 2;
 constexpr COLORREF kCurrentFrame = RGB(255, 0, 0);
 constexpr COLORREF kCaptionColor = RGB(200, 200, 200);
 
@@ -111,28 +109,16 @@ void TPickerThump::Track(LPARAM lParam) {
 }
 
 void TPickerThump::Paint() {
-  const BackBuffer buffer(window);
-  const HDC dc = buffer.Dc();
-  if (dc == nullptr) return;
-  FillRect(dc, &buffer.Client(), static_cast<HBRUSH>(GetStockObject(BLACK_BRUSH)));
-  const RECT inner = {kRim, kRim, width - kRim, height - kRim};
-  FillRect(dc, &inner,
-           static_cast<HBRUSH>(GetStockObject(pointerInside ? GRAY_BRUSH : DKGRAY_BRUSH)));
-  if (bitmap) bitmap->Draw(dc, kPickerThumbnailInset, kPickerThumbnailInset);
-  if (isCurrent_) {
-    const RECT frame = {kPickerThumbnailInset - 1, kPickerThumbnailInset - 1,
-                        kPickerThumbnailInset + metrics_.thumbnail.width + 1,
-                        kPickerThumbnailInset + metrics_.thumbnail.height + 1};
-    const HBRUSH brush = CreateSolidBrush(kCurrentFrame);
-    FrameRect(dc, &frame, brush);
-    DeleteObject(brush);
-  }
-  const Selected font(dc, SharedControls().fonts.FontThumbCaption);
-  SetBkMode(dc, TRANSPARENT);
-  SetTextColor(dc, kCaptionColor);
-  const Place place = CellCaptionPlace(metrics_);
-  RECT caption = {place.x, place.y, place.x + place.width, place.y + place.height};
-  DrawTextA(dc, caption_.c_str(), -1, &caption, DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS);
+  const Place caption = CellCaptionPlace(metrics_);
+  ThumbnailCellLook look;
+  look.ground = static_cast<HBRUSH>(GetStockObject(pointerInside ? GRAY_BRUSH : DKGRAY_BRUSH));
+  look.picture = bitmap ? &*bitmap : nullptr;
+  look.inset = kPickerThumbnailInset;
+  look.size = metrics_.thumbnail;
+  if (isCurrent_) look.frame = kCurrentFrame;
+  look.captionPlace = {caption.x, caption.y, caption.x + caption.width, caption.y + caption.height};
+  look.captionColor = kCaptionColor;
+  PaintThumbnailCell(window, look, caption_);
 }
 
 }  // namespace tarnwick
