@@ -104,6 +104,7 @@ class MainDialog {
   void MoveOffset(int dx, int dy);
   void ClickLabel(std::size_t option);
   void ClickBox();
+  bool KeepKeysWithDrawer();  // true when one is open
   INT_PTR SystemCommand(WPARAM command);
   void HotKey(WPARAM key);
   void SelectTab();

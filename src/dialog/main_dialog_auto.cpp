@@ -20,7 +20,7 @@ void MainDialog::ThrowLook() {
     PlaySoundResource(instance_, kAutoSound);
   }
   // A field that still waits for its timer would write into the new look.
-  if (pages_) pages_->FlushSpins();
+  if (pages_) pages_->FinishSpins();
   const AutoThrow thrown = AutoRandomize(
       AutoLibraryOf(g_.folders.presetFolder, drawerLists_, Seconds), *g_.gParams, PresetsOf(g_));
   if (drawers_) {

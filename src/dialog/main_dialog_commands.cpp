@@ -168,6 +168,7 @@ void MainDialog::ClickLabel(std::size_t option) {
   const bool isOn = !IsChecked(Item(kNewLayerOptions[option].boxId));
   SetNewLayerOption(*g_.gParams, option, isOn);
   ShowOptions();
+  KeepKeysWithDrawer();
 }
 
 void MainDialog::ClickBox() {
@@ -176,6 +177,12 @@ void MainDialog::ClickBox() {
   }
   if (g_.gParams->MaskLayerEffect != 0) SetNewLayerOption(*g_.gParams, kMaskOption, true);
   ShowOptions();
+  KeepKeysWithDrawer();
+}
+
+// While one is open OK and Cancel are of no use, nor are Enter and Escape anywhere else.
+bool MainDialog::KeepKeysWithDrawer() {
+  return drawers_ && drawers_->TakeFocus();
 }
 
 // Boxes and labels as the settings are, those of the current page in sight.
@@ -231,8 +238,7 @@ void MainDialog::SetZoomButtons(ZoomButtons buttons) {
   const HWND zoomOut = Item(kZoomOut);
   const HWND focus = GetFocus();
   const bool isOnZoom = focus != nullptr && (focus == zoomIn || focus == zoomOut);
-  // While a drawer is open OK and Cancel are of no use, nor are Enter and Escape elsewhere.
-  const bool isTaken = isOnZoom && drawers_ && drawers_->TakeFocus();
+  const bool isTaken = isOnZoom && KeepKeysWithDrawer();
   // A disabled control would keep the keys to itself, Enter and Escape among them.
   if (!isTaken && isOnZoom &&
       ((focus == zoomIn && !buttons.canZoomIn) || (focus == zoomOut && !buttons.canZoomOut))) {

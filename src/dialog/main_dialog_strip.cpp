@@ -44,7 +44,7 @@ void MainDialog::ChooseInStrip(int command) {
 
 void MainDialog::ResetPressed() {
   if (views_.currentTab == kBasicTab && !ConfirmsResetAll(window_)) return;
-  if (pages_) pages_->FlushSpins();
+  if (pages_) pages_->FinishSpins();
   const KeptLayers kept = ResetPage(*g_.gParams, g_.session, views_.currentTab);
   // First, lest the pane shows a second effect that has gone.
   SyncStrip();

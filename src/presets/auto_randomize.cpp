@@ -58,6 +58,8 @@ class Thrower {
   }
 
   bool ReadFrom(PresetKind kind) {
+    // Without a folder of its own it would read where the program stands.
+    if (library_.presetRoot.empty()) return false;
     const auto path =
         PickRandomPreset(library_.presetRoot / PresetFolder(kind), library_.order, dice_);
     if (!path || LoadPresetFile(*path, settings_, session_) != PresetLoad::kLoaded) return false;

@@ -1,6 +1,8 @@
 """The drawer of colours, with a real pointer and real keys."""
 from dialog_drawers import CANCEL, EFFECTS, LIVE, SELECT, SETS, Drawer, texture, wait_settings
 from dialog_pages import Page, expectations
+from preset_files import preset
+from preset_shelf import SETTINGS
 from scenarios import equal, scenario
 from screen import wait_for
 
@@ -96,4 +98,17 @@ def colors_by_category_and_back_to_the_first(run):
     wait_settings(dialog, {})
     drawer.leave(SELECT)
     drawer.page[1015].wait_text("Custom")
+    dialog.ok()
+
+
+@scenario()
+def a_look_takes_nothing_from_a_whole_preset(run):
+    """That lies among the colours."""
+    put_colors(run)
+    run.presets["Colors/Whole.twkpst"] = preset("User", {**SETTINGS, "WashScale1": 5})
+    dialog = run.open(width=303, height=221, after=expectations({}))
+    drawer = open_colors(dialog, 3)
+    wait_for(lambda: len(drawer.shown()) == 5, lambda: f"cells: {drawer.shown()}")
+    drawer.leave(CANCEL)
+    wait_settings(dialog, {})
     dialog.ok()

@@ -333,6 +333,7 @@ def a_relief_is_as_deep_as_the_other_surface(run):
         return {one.picture().crop(12, 12, 72, 52).rgb() for one in cells}
     shown = picker.cells[3:6]  # Dot, Fiberglass, General_Store
     wait_for(lambda: len(pictures(shown)) == 1, "textures differ")
+    assert len(shown[0].picture().crop(12, 12, 72, 52).colors()) > 1, "there is no picture"
     picker.set_live(False)
     wait_for(lambda: len(pictures(shown)) == 3, "textures do not differ")
     picker.click(picker[CANCEL])
@@ -340,7 +341,9 @@ def a_relief_is_as_deep_as_the_other_surface(run):
     drawer = open_textures(dialog, 2)
     while drawer[LEFT].look().visible:
         drawer[LEFT].click()
+    greys = pictures(drawer.cells[4:7])
     drawer.click(DRAWER_LIVE)
+    wait_for(lambda: not pictures(drawer.cells[4:7]) & greys, "the drawer's cells stay grey")
     wait_for(lambda: len(pictures(drawer.cells[4:7])) == 3, "textures do not differ in the drawer")
     drawer.leave(DRAWER_CANCEL)
     dialog.cancel()

@@ -1,5 +1,6 @@
 """The lists of presets: what they show, what a click loads, the first rows."""
 import os
+import time
 
 from dialog_pages import NUMBERS, Page
 from dialog_strip import ONE, TWO, choose, is_selected, wait_row
@@ -202,4 +203,21 @@ def bad_files_change_nothing(run):
     wait_for(lambda: dialog.window.look().enabled and shelf.page[1015].look().text == "Gone",
              "the name is not shown")
     wait_shown(dialog, {**SETTINGS, "WashFileName1": "Gone.twk"})
+    dialog.cancel()
+
+
+@scenario()
+def an_up_down_counts_as_last_used(run):
+    """Though a preset of another page follows before its picture does."""
+    roomy(run)
+    run.presets = {"Basic/Look.twkpst": preset("User", {**SETTINGS, "WashScale1": 5})}
+    dialog = run.open(width=300, height=220, after=CANCELLED)
+    page, row = Page(dialog, 1), NUMBERS[1][0]
+    page.click(page[row[2]], 0.5, 0.25)
+    shelf = Shelf(dialog, "Basic")
+    shelf.click("Look")
+    time.sleep(0.8)  # what has been put off has come by then
+    wait_shown(dialog, {**SETTINGS, "WashScale1": 5})
+    shelf.click("Last Used Settings")
+    wait_shown(dialog, {**SETTINGS, "WashScale1": SETTINGS["WashScale1"] + 1})
     dialog.cancel()

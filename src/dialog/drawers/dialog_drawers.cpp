@@ -2,7 +2,6 @@
 
 #include <commctrl.h>
 
-#include <cstring>
 #include <new>
 #include <utility>
 #include <vector>
@@ -34,10 +33,6 @@ CellTarget CellTargetOf(LayerKind kind) {
       break;
   }
   return CellTarget::kWash;
-}
-
-std::string NameOf(const LayerSlot& slot) {
-  return {slot.fileName, strnlen(slot.fileName, kTextureNameSize)};
 }
 
 }  // namespace
@@ -90,7 +85,7 @@ void DialogDrawers::Create(HWND owner, HWND bar, const StripShade& shade, const 
   // One that cannot be made stays out.
   if (textures_->Create(owner, place.x, place.y, place.width, place.height, kTextureDrawer)) {
     textures_->SetSets(TextureSets());
-    textures_->OpenList(NameOf(WashSlot(g_.layers, *g_.gParams, false)), g_.folders.dataFolder);
+    textures_->OpenList(WashSlot(g_.layers, *g_.gParams, false).Name(), g_.folders.dataFolder);
   }
   if (colors_->Create(owner, place.x, place.y, place.width, place.height, kColorDrawer)) {
     colors_->OpenList({}, g_.folders.colorFolder);
@@ -99,6 +94,7 @@ void DialogDrawers::Create(HWND owner, HWND bar, const StripShade& shade, const 
 
 TextureSetTable DialogDrawers::TextureSets() const {
   TextureSetTable sets;
+  if (g_.folders.dataFolder.empty()) return sets;
   std::vector<SetTableFault> faults;  // lines of a table that say nothing are passed over
   (void)LoadTextureSets(PathOfName(g_.folders.dataFolder) / kTextureSetFile, sets, faults);
   return sets;
@@ -184,13 +180,14 @@ void DialogDrawers::OpenFullSize(int tab) {
   TPicker picker;
   picker.kind = kind;
   picker.helpFolder = g_.folders.helpFolder;
-  picker.sets = TextureSets();
   try {
+    picker.sets = TextureSets();
     picker.Build(g_.folders.dataFolder, ScanTextureNames(PathOfName(g_.folders.dataFolder)), {},
                  picker.sets);
   } catch (const std::bad_alloc&) {
     ShowAlertBox("Cannot allocate memory in TPicker::InitWSHList", owner_);
-    return DoTextureWork(texture_.Cancel());
+    picker.records.clear();
+    picker.filtered.clear();
   }
   picker.hooks = {[&](ThumbnailSize size) {
                     // What is missing is told over the picker.
@@ -228,7 +225,7 @@ void DialogDrawers::OpenColors(int tab) {
   }
   cellPreview_.MakeBackdrop();
   TextureRecord record;
-  record.fileName = NameOf(*slot);
+  record.fileName = slot->Name();
   colorSource_ = LoadOrMakeThumbnail(g_.folders.dataFolder, record, kDrawerThumbnail, true);
   Open(*colors_);
   colors_->OpenList({}, g_.folders.colorFolder);

@@ -49,12 +49,18 @@ class TextureBack {
     EffectLayer& layer = *Slot().layer;
     layer.offsetX = offsetX_;
     layer.offsetY = offsetY_;
+    bool isStuck = false;
     try {
       (void)target_.Cancel();
     } catch (const std::bad_alloc&) {
-      // Its layer stays with the tried texture; the record below does not.
+      isStuck = true;
     }
     *g_.gParams = settings_;
+    if (isStuck) {
+      preview_.RemakeLayers({.washes = kind_ != LayerKind::kWash,
+                             .surfaces = kind_ != LayerKind::kSurface,
+                             .background = kind_ != LayerKind::kBackground});
+    }
     EffectViews views = views_;
     preview_.Render(views.Current(), PreviewBar::kKept);
     *g_.gParams = settings_;
@@ -86,7 +92,7 @@ ThumbnailPicture LookAtTexture(FilterGlobals& g, LivePreview& preview, const Eff
                                LayerKind kind, std::string_view name, ThumbnailSize size) {
   TextureBack back(g, preview, views, kind);
   const LayerSlot slot = ActiveSlotOf(kind, views, g.layers, *g.gParams);
-  if (name != std::string_view(slot.fileName)) back.Try(name);
+  if (name != slot.Name()) back.Try(name);
   EffectViews copy = views;
   const ViewMode view = copy.Current();
   preview.Render(view == ViewMode::kOriginal ? ViewMode::kComposite : view, PreviewBar::kKept);

@@ -39,7 +39,8 @@ TFilmstripControl::TFilmstripControl(FilterGlobals& g, PresetLibrary& presets, B
 
 int TFilmstripControl::ScanPresets(PresetKind kind) {
   presetKind_ = kind;
-  names_ = LooksIn(presets_.Folders().Folder(kind));
+  names_.clear();
+  if (!g_.folders.presetFolder.empty()) names_ = LooksIn(presets_.Folders().Folder(kind));
   return static_cast<int>(names_.size());
 }
 

@@ -93,6 +93,13 @@ void SettingsPage::FinishSpin() {
   if (row->isLinked) ShowOffset();
 }
 
+void SettingsPage::SettleSpin() {
+  FinishSpin();
+  if (spinTimer_ == 0) return;
+  KillTimer(window_, spinTimer_);
+  spinTimer_ = 0;
+}
+
 void SettingsPage::FlushSpin() {
   if (spinTimer_ == 0) return;
   FinishSpin();

@@ -44,8 +44,10 @@ class SettingsPage {
   // The work that a click on an up-down has put off, now: what it was for is about to
   // change. The redraw comes in its time.
   void FinishSpin();
-  // That and the redraw, which takes the settings as they are for the last used: something
-  // is about to replace them.
+  // The same for a caller that redraws by itself: nothing comes later, which would take
+  // what replaces the settings for the last used.
+  void SettleSpin();
+  // That and the redraw, which takes the settings as they are for the last used.
   void FlushSpin();
 
   [[nodiscard]] HWND Window() const { return window_; }

@@ -58,13 +58,7 @@ void SettingsPages::ShowWashOffset() {
 
 void SettingsPages::FinishSpins() {
   for (const auto& page : pages_) {
-    if (page) page->FinishSpin();
-  }
-}
-
-void SettingsPages::FlushSpins() {
-  for (const auto& page : pages_) {
-    if (page) page->FlushSpin();
+    if (page) page->SettleSpin();
   }
 }
 

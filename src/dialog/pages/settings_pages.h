@@ -30,10 +30,8 @@ class SettingsPages {
   void ShowAll();
   // The offset of the wash, wherever it is shown.
   void ShowWashOffset();
-  // Work that up-downs have put off, before the layers change.
+  // Work that up-downs have put off, before the layers change. The caller redraws.
   void FinishSpins();
-  // That and the redraw, before all settings change.
-  void FlushSpins();
 
  private:
   PageContext context_;

@@ -107,6 +107,18 @@ TEST(LivePreview, TakesNoInkForTransparency) {
   }
 }
 
+TEST(LivePreview, TellsAnUnsupportedMode) {
+  PreviewStage stage(FlatDocument("grey", 8, 7, {90}));
+  NameNoTextures(stage.settings);
+  stage.Open({8, 7});
+  stage.settings.LinkNewLayer = 1;
+  stage.preview->Render(ViewMode::kComposite);
+  EXPECT_EQ(stage.result, host::userCanceledErr);
+  EXPECT_EQ(stage.host.log.boxes,
+            std::vector<std::string>{"This Mode is Not Supported by the Plug-in"});
+  EXPECT_EQ(stage.settings.LinkNewLayer, 0);
+}
+
 // Under a clear layer lies a picture: the pane shows every second pixel of it.
 TEST(LivePreview, ShowsWhatLiesBelow) {
   constexpr PaneSize kPane = {24, 20};
@@ -156,7 +168,7 @@ TEST(LivePreview, ReportsUpwardsAndThenNothing) {
   EXPECT_TRUE(std::is_sorted(sink.done.begin(), sink.done.end()));
   // Whoever has the bar for himself finds it as the render left it.
   stage.preview->Render(ViewMode::kComposite, PreviewBar::kKept);
-  EXPECT_GT(sink.done.back(), 0);
+  EXPECT_EQ(sink.done.back(), 100);
 }
 
 // A host sample of 16 bits is read as two bytes by the render, and as what it is by the
