@@ -27,6 +27,7 @@ import dialog_presets  # noqa: F401
 import dialog_preview  # noqa: F401
 import dialog_strip  # noqa: F401
 import dialog_values  # noqa: F401
+from dialog_pages import Page
 from host_run import HostRun
 from scenarios import equal, near, run, scenario
 from screen import wait_for
@@ -185,6 +186,20 @@ def ok_applies_to_the_whole_picture(run):
     dialog.wait_pane(dialog.window_at(0, 0))
     dialog.ok()
     equal(run.result().rgb(), run.aged().rgb())
+
+
+@scenario()
+def the_filter_is_repeated_without_its_dialog(run):
+    """By the editor's command: what was set by hand, once more on what has come of it."""
+    dialog = run.open(width=300, height=220, after=["repeat last"])
+    page = Page(dialog, 1)
+    page.click(page[1021], 6, 0.5)
+    dialog.wait_pane(dialog.window_at(0, 0, 1, "WashInvert1=1"))
+    dialog.ok()
+    run.aged("WashInvert1=1")
+    once = shutil.copy(run.file("aged.ppm"), run.file("once.ppm"))
+    twice = run.aged("WashInvert1=1", picture=once).rgb()
+    equal(run.result().rgb() == twice, True)
 
 
 @scenario()
