@@ -74,7 +74,9 @@ bool SettingsPage::Scroll(WPARAM wParam, LPARAM lParam) {
 void SettingsPage::ArmTimer(const ControlRow& row) {
   if (spinTimer_ != 0) KillTimer(window_, spinTimer_);
   spinRow_ = &row;
-  spinTimer_ = SetTimer(window_, TimerOf(tab_, row), kBurstMilliseconds, nullptr);
+  // What this returns for a window's timer is not 0, and need not be its id.
+  const UINT_PTR timer = TimerOf(tab_, row);
+  spinTimer_ = SetTimer(window_, timer, kBurstMilliseconds, nullptr) != 0 ? timer : 0;
 }
 
 void SettingsPage::TimerExpired(UINT_PTR timer) {
