@@ -108,6 +108,8 @@ class Page:
 
     def type(self, number, text):
         self.focus(number)
+        # A page that is just shown anew may have set the caret back.
+        self.screen.key("Home", "shift+End")
         self.screen.type(text)
         self.screen.key("Tab")
         wait_for(lambda: not self[number].has_focus(), "the field keeps the keys")

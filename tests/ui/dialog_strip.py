@@ -161,7 +161,7 @@ def a_second_wash_is_linked_to_the_first(run):
     dialog.tab(1)
     dialog[2000].click()
     wait_for(lambda: not dialog.window.look().enabled, "nothing is asked")
-    run.screen.key("alt+y")
+    run.screen.key("Tab", "space")  # from the choice to Yes
     wait_for(lambda: dialog.window.look().enabled, "the question stays")
     choose(dialog, 503, 502)
     wait_row(dialog, TWO[1])
